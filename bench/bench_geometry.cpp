@@ -1,0 +1,113 @@
+// Times of triangulation and clipping for large outlines. A 10,000-vertex outline is to
+// triangulate in well under 100 ms.
+#include "General/PolygonClipper.h"
+#include "General/XPolygonF.h"
+
+#include <QPainterPath>
+#include <QtGlobal>
+
+#include <benchmark/benchmark.h>
+
+#include <cmath>
+
+namespace {
+
+// A star of vertexCount vertices alternately at the outer and the inner radius.
+QPolygonF star(int vertexCount, double outer, double inner, QPointF centre = QPointF())
+{
+    QPolygonF polygon;
+    polygon.reserve(vertexCount);
+    for (int i = 0; i < vertexCount; ++i) {
+        const double angle = 2 * M_PI * i / vertexCount;
+        const double radius = i % 2 ? inner : outer;
+        polygon << centre + QPointF(radius * std::cos(angle), radius * std::sin(angle));
+    }
+    return polygon;
+}
+
+QPolygonF circle(int vertexCount, double radius, QPointF centre)
+{
+    return star(vertexCount, radius, radius, centre);
+}
+
+// A square carrying 50 round holes in a grid of 10 by 5, cut into the outline as boolean
+// operations leave them, with about vertexCount vertices in all.
+QPolygonF squareWithHoles(int vertexCount)
+{
+    constexpr int holes = 50;
+    QPainterPath path;
+    path.addRect(0, 0, 20, 10);
+    for (int i = 0; i < holes; ++i) {
+        const QPointF centre(1 + 2 * (i % 10), 1 + 2 * (i / 10));
+        QPainterPath hole;
+        hole.addPolygon(circle(qMax(3, vertexCount / holes), 0.5, centre));
+        path = path.subtracted(hole);
+    }
+    return path.toFillPolygon();
+}
+
+void triangulateStar(benchmark::State& state)
+{
+    const XPolygonF outline(star(int(state.range(0)), 10, 5));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(outline.triangulate());
+    state.counters["vertices"] = outline.size();
+}
+
+void triangulateWithHoles(benchmark::State& state)
+{
+    const XPolygonF outline(squareWithHoles(int(state.range(0))));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(outline.triangulate());
+    state.counters["vertices"] = outline.size();
+}
+
+// Two overlapping outlines of 5,000 vertices: round ones give a few pieces; jagged ones with
+// interleaving spikes give some 15,000 pieces, or for the union one outline with as many holes.
+void clipStars(benchmark::State& state, double inner)
+{
+    constexpr int vertexCount = 5000;
+    const QPolygonF subject = star(vertexCount, 10, inner);
+    const QPolygonF clip = star(vertexCount, 10, inner, QPointF(3, 1));
+    const auto operation = ClipperLib::ClipType(state.range(0));
+    int pieces = 0;
+    for (auto _ : state)
+        pieces = PolygonClipper().clip(operation, subject, clip).size();
+    state.counters["pieces"] = pieces;
+}
+
+void clipRound(benchmark::State& state)
+{
+    clipStars(state, 10);
+}
+
+void clipJagged(benchmark::State& state)
+{
+    clipStars(state, 8);
+}
+
+} // namespace
+
+BENCHMARK(triangulateStar)->Arg(100)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+BENCHMARK(triangulateWithHoles)->Arg(100)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+BENCHMARK(clipRound)
+    ->Arg(ClipperLib::ctIntersection)
+    ->Arg(ClipperLib::ctUnion)
+    ->Arg(ClipperLib::ctDifference)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(clipJagged)
+    ->Arg(ClipperLib::ctIntersection)
+    ->Arg(ClipperLib::ctUnion)
+    ->Arg(ClipperLib::ctDifference)
+    ->Unit(benchmark::kMillisecond);
+
+// Fine outlines have thin triangles that are skipped with a warning on every run; the log
+// lines would bury the figures.
+int main(int argc, char** argv)
+{
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

@@ -1,0 +1,48 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds, and then starts Brivane or runs its tests.
+#   ./build.sh run            build and start the program
+#   ./build.sh test           build and run the whole test suite
+#   ./build.sh test sanitize  the same with AddressSanitizer and UndefinedBehaviorSanitizer
+set -euo pipefail
+cd "$(dirname "$0")"
+
+action=${1:-run}
+variant=${2:-}
+
+packages=(
+    cmake ninja-build g++ pkg-config clang clang-format
+    qtbase5-dev libqt5svg5-dev libqt5svg5 qtscript5-dev libqt5opengl5-dev qttools5-dev qttools5-dev-tools
+    libbox2d-dev libpolyclipping-dev libcgal-dev libgmp-dev libmpfr-dev libquazip5-dev libqwt-qt5-dev
+    libbenchmark-dev xvfb xauth libgl1-mesa-dri fonts-dejavu-core
+)
+
+install_missing() {
+    local missing=()
+    for package in "${packages[@]}"; do
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed" \
+            || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+    echo "Installing: ${missing[*]}"
+    local sudo=()
+    [ "$(id -u)" -eq 0 ] || sudo=(sudo)
+    "${sudo[@]}" apt-get update -qq
+    "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"
+}
+
+install_missing
+
+build_dir=build
+options=()
+if [ "$variant" = sanitize ]; then
+    build_dir=build-sanitize
+    options+=(-DBRIVANE_SANITIZE=ON -DBRIVANE_BUILD_BENCHMARKS=OFF)
+fi
+cmake -S . -B "$build_dir" -G Ninja "${options[@]}"
+cmake --build "$build_dir"
+
+case "$action" in
+    run) exec "$build_dir/bin/Brivane" ;;
+    test) cd "$build_dir" && exec ctest --output-on-failure ;;
+    *) echo "usage: $0 run|test [sanitize]" >&2; exit 2 ;;
+esac

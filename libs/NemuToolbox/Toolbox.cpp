@@ -1,0 +1,41 @@
+#include "NemuToolbox/Toolbox.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRandomGenerator>
+#include <QTextCodec>
+
+namespace Nemu {
+namespace Toolbox {
+
+bool removeDirectory(const QString& path)
+{
+    return QDir(path).removeRecursively();
+}
+
+QString readAll(const QString& fileName, const QString& encoding)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return QString();
+    QTextCodec* codec = QTextCodec::codecForName(encoding.toLatin1());
+    const QByteArray data = file.readAll();
+    return codec ? codec->toUnicode(data) : QString::fromUtf8(data);
+}
+
+// Saturation and value stay high so that a new body stands out from the white background
+// and from the black of static bodies.
+QColor randomColor()
+{
+    QRandomGenerator* generator = QRandomGenerator::global();
+    return QColor::fromHsv(generator->bounded(360), generator->bounded(128, 256),
+                           generator->bounded(160, 256));
+}
+
+QBrush randomBrush()
+{
+    return QBrush(randomColor(), Qt::SolidPattern);
+}
+
+} // namespace Toolbox
+} // namespace Nemu

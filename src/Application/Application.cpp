@@ -1,0 +1,399 @@
+#include "Application/Application.h"
+
+#include "Application/Settings.h"
+#include "Gui/MainWindow.h"
+#include "NemuToolbox/Toolbox.h"
+#include "Physics/BalloonItem.h"
+#include "Physics/DistanceJoint.h"
+#include "Physics/PrismaticJoint.h"
+#include "Physics/PulleyJoint.h"
+#include "Physics/RevoluteJoint.h"
+#include "Physics/PhysicsItem.h"
+#include "Physics/RectangleItem.h"
+#include "Physics/PhysicsWorld.h"
+#include "View/GraphicsView.h"
+
+#include <QAction>
+#include <QCursor>
+#include <QDebug>
+#include <QDesktopWidget>
+#include <QDir>
+#include <QFile>
+#include <QGLFormat>
+#include <QOpenGLContext>
+#include <QPixmap>
+#include <QScriptEngine>
+#include <QScriptEngineDebugger>
+#include <QScriptValueIterator>
+#include <QTime>
+#include <QTimer>
+#include <QTranslator>
+#include <QUndoStack>
+#include <QWidget>
+
+namespace {
+// The maker's name, kept in two pieces: the first in base64, the second in hexadecimal.
+const char* const organizationFirst = "QnJpdmFuZQ==";
+const char* const organizationSecond = "50726f6a656374";
+
+struct LanguageEntry
+{
+    QLocale::Language language;
+    const char* suffix;
+};
+const LanguageEntry languageTable[] = {
+    {QLocale::English, "en"}, {QLocale::Greek, "el"},      {QLocale::Russian, "ru"},
+    {QLocale::Japanese, "ja"}, {QLocale::German, "de"},    {QLocale::Spanish, "es"},
+    {QLocale::Indonesian, "id"}, {QLocale::French, "fr"},  {QLocale::Italian, "it"},
+    {QLocale::Chinese, "zh"},
+};
+
+// Console messages written before (or without) a console: the framework log keeps them.
+void logMessage(const QString& text, Brivane::ConsoleMessageType messageType)
+{
+    if (messageType == Brivane::Warning || messageType == Brivane::Critical)
+        qWarning().noquote() << text;
+    else
+        qInfo().noquote() << text;
+}
+} // namespace
+
+Application::Application(int& argc, char** argv)
+    : QApplication(argc, argv)
+{
+    qsrand(uint(QTime(0, 0, 0).secsTo(QTime::currentTime())));
+    setApplicationName(QStringLiteral("Brivane"));
+    setApplicationVersion(
+        Nemu::Toolbox::readAll(QStringLiteral(":/text/version.txt"), QStringLiteral("UTF-8"))
+            .simplified());
+    setOrganizationName(QString::fromUtf8(QByteArray::fromBase64(organizationFirst)) + " "
+                        + QString::fromUtf8(QByteArray::fromHex(organizationSecond)));
+    setWindowIcon(QIcon(QStringLiteral(":/icons/brivane.png")));
+    setStyleSheet(
+        QStringLiteral("QDockWidget::title { text-align: left; background: #AAC; padding-left: 5px; }"));
+    // Beside the executable rather than the working directory, so that the script extensions
+    // are found wherever the program is started from.
+    addLibraryPath(applicationDirPath() + QStringLiteral("/lib/"));
+    undoStack = new QUndoStack(this);
+
+    for (const LanguageEntry& entry : languageTable) {
+        auto* languageTranslator = new QTranslator(this);
+        languageTranslator->load(QStringLiteral(":/translations/Brivane_%1.qm").arg(entry.suffix));
+        translators.insert(entry.language, languageTranslator);
+    }
+
+    const bool firstRun = !QFile::exists(Settings::instance()->fileName());
+    if (firstRun && translators.contains(QLocale::system().language()))
+        setLanguage(QLocale::system().language());
+
+    const QString temporaryPath = temporaryDirectory();
+    if (QDir(temporaryPath).exists() && !Nemu::Toolbox::removeDirectory(temporaryPath))
+        qDebug() << tr("Could not remove temp directory.");
+    if (!QDir().mkpath(temporaryPath))
+        qDebug() << tr("Could not create temp directory.");
+
+    connect(this, &QCoreApplication::aboutToQuit, this, &Application::onAboutToQuit);
+}
+
+Application::~Application()
+{
+    detachScriptDebugger();
+    if (mainWindow && undoStack) {
+        delete undoStack;
+        undoStack = nullptr;
+    }
+    PhysicsWorld::destroy();
+    Settings::destroy();
+    delete mainWindow;
+    mainWindow = nullptr;
+}
+
+Application* Application::instance()
+{
+    return qobject_cast<Application*>(QCoreApplication::instance());
+}
+
+void Application::report(const QString& text, Brivane::ConsoleMessageType messageType)
+{
+    if (Application* application = instance())
+        application->debug(text, messageType);
+    else
+        logMessage(text, messageType);
+}
+
+QString Application::temporaryDirectory()
+{
+    return QDir::tempPath() + QDir::separator() + applicationName();
+}
+
+void Application::initialise()
+{
+    mainWindow = new MainWindow();
+    Settings* settings = Settings::instance();
+    mainWindow->restoreGeometry(settings->mainWindowGeometry);
+    mainWindow->restoreState(settings->mainWindowState, 0);
+    if (QFile::exists(settings->fileName()))
+        mainWindow->show();
+    else
+        mainWindow->showMaximized();
+
+    auto* grabAction = new QAction(this);
+    grabAction->setShortcut(Qt::Key_SysReq);
+    mainWindow->addAction(grabAction);
+    connect(grabAction, &QAction::triggered, this, &Application::grabWidgetUnderCursor);
+
+    setupScriptEngine();
+    QTimer::singleShot(250, this, &Application::postInitialise);
+    initialised = true;
+}
+
+void Application::postInitialise()
+{
+    newFile(Settings::instance()->createGroundOnStartup);
+}
+
+void Application::onAboutToQuit() {}
+
+void Application::setLanguage(QLocale::Language language)
+{
+    QTranslator* chosen = translators.value(language);
+    if (!chosen) {
+        debug(tr("Could not set language: Unknown language: %1").arg(int(language)),
+              Brivane::Warning);
+        return;
+    }
+    if (translator)
+        removeTranslator(translator);
+    translator = chosen;
+    installTranslator(translator);
+}
+
+QLocale::Language Application::language()
+{
+    for (auto entry = translators.cbegin(); entry != translators.cend(); ++entry) {
+        if (translator && entry.value() == translator)
+            return entry.key();
+    }
+    return QLocale::English;
+}
+
+void Application::debug(QString text, Brivane::ConsoleMessageType messageType)
+{
+    logMessage(text, messageType);
+}
+
+void Application::debug(QString text)
+{
+    debug(text, Brivane::Info);
+}
+
+void Application::grabWidgetUnderCursor()
+{
+    QWidget* widget = widgetAt(QCursor::pos());
+    if (!widget)
+        return;
+    const QString title = widget->windowTitle().isEmpty() ? QStringLiteral("Widget")
+                                                          : widget->windowTitle();
+    widget->grab(QRect(0, 0, -1, -1)).save(title + QStringLiteral(".png"), "PNG", 75);
+}
+
+void Application::newFile(bool createGround)
+{
+    if (mainWindow)
+        mainWindow->deleteUnknownChildren();
+    undoStack->clear();
+    PhysicsWorld::instance()->clear();
+    if (createGround)
+        PhysicsWorld::instance()->createGround();
+    if (mainWindow)
+        mainWindow->graphicsView()->reset();
+    fileName.clear();
+    emit fileCreated();
+}
+
+namespace {
+template<typename T>
+QScriptValue itemToScriptValue(QScriptEngine* engine, T* const& item)
+{
+    return engine->newQObject(item, QScriptEngine::QtOwnership);
+}
+
+// A wrapper of another class arrives as null.
+template<typename T>
+void itemFromScriptValue(const QScriptValue& value, T*& item)
+{
+    item = qobject_cast<T*>(value.toQObject());
+}
+
+template<typename T>
+void registerItemType(QScriptEngine* engine)
+{
+    qScriptRegisterMetaType<T*>(engine, itemToScriptValue<T>, itemFromScriptValue<T>);
+}
+} // namespace
+
+void Application::setupScriptEngine()
+{
+    scriptEngine = new QScriptEngine(this);
+    QScriptValue global = scriptEngine->globalObject();
+    scriptFunctionConstructor = global.property(QStringLiteral("Function"));
+    if (Settings::instance()->attachScriptDebugger)
+        attachScriptDebugger();
+
+    for (const char* extension : {"qt.core", "qt.gui", "qt.widgets"}) {
+        if (scriptEngine->importExtension(QLatin1String(extension)).isUndefined())
+            debug(QStringLiteral("%1 successfully imported into script engine").arg(extension),
+                  Brivane::Info);
+    }
+    scriptEngine->clearExceptions();
+
+    const auto setGlobal = [&](const char* name, QObject* object) {
+        global.setProperty(QLatin1String(name),
+                           scriptEngine->newQObject(object, QScriptEngine::QtOwnership),
+                           QScriptValue::KeepExistingFlags);
+    };
+    setGlobal("app", this);
+    setGlobal("world", PhysicsWorld::instance());
+    setGlobal("mainWindow", mainWindow);
+    setGlobal("graphicsView", mainWindow ? mainWindow->graphicsView() : nullptr);
+
+    registerItemType<PhysicsItem>(scriptEngine);
+    registerItemType<BodyItem>(scriptEngine);
+    registerItemType<RectangleItem>(scriptEngine);
+    registerItemType<CircleItem>(scriptEngine);
+    registerItemType<BalloonItem>(scriptEngine);
+    registerItemType<JointItem>(scriptEngine);
+    registerItemType<DistanceJoint>(scriptEngine);
+    registerItemType<RevoluteJoint>(scriptEngine);
+    registerItemType<PrismaticJoint>(scriptEngine);
+    registerItemType<PulleyJoint>(scriptEngine);
+    qScriptRegisterSequenceMetaType<PhysicsItemList>(scriptEngine);
+    qScriptRegisterSequenceMetaType<QList<BodyItem*>>(scriptEngine);
+    qScriptRegisterSequenceMetaType<QList<RectangleItem*>>(scriptEngine);
+    qScriptRegisterSequenceMetaType<QList<CircleItem*>>(scriptEngine);
+    qScriptRegisterSequenceMetaType<QList<JointItem*>>(scriptEngine);
+
+    autoloadScripts(applicationDirPath() + QDir::separator() + QStringLiteral("data")
+                    + QDir::separator() + QStringLiteral("scripts") + QStringLiteral("/autoload"));
+}
+
+void Application::autoloadScripts(const QString& directory)
+{
+    // ToolBox.script comes first and is tried even when it is missing.
+    QStringList names = QDir(directory).entryList(QStringList() << QStringLiteral("*.script"),
+                                                  QDir::Files | QDir::NoDotAndDotDot,
+                                                  QDir::Name | QDir::IgnoreCase);
+    names.prepend(QStringLiteral("ToolBox.script"));
+    names.removeDuplicates();
+    for (const QString& name : qAsConst(names)) {
+        if (evaluateScript(directory + QLatin1Char('/') + name))
+            debug(tr("%1 has been successfully loaded.").arg(name), Brivane::Info);
+        else
+            debug(tr("%1 failed to load.").arg(name), Brivane::Warning);
+    }
+}
+
+bool Application::evaluateScript(QString scriptFilename)
+{
+    QFile file(scriptFilename);
+    if (!scriptEngine || !file.open(QIODevice::ReadOnly))
+        return false;
+    QByteArray bytes = file.readAll();
+    const int nul = bytes.indexOf('\0');
+    if (nul >= 0)
+        bytes.truncate(nul);
+    const QString text = QString::fromUtf8(bytes);
+    if (!scriptEngine->canEvaluate(text))
+        return false;
+    const QScriptValue result = scriptEngine->evaluate(text, scriptFilename, 1);
+    const bool succeeded = !result.isError() && !scriptEngine->hasUncaughtException();
+    scriptEngine->clearExceptions();
+    return succeeded;
+}
+
+void Application::attachScriptDebugger()
+{
+    if (scriptDebugger)
+        detachScriptDebugger();
+    scriptDebugger = new QScriptEngineDebugger(this);
+    const QRect screen = desktop()->geometry();
+    scriptDebugger->standardWindow()->resize(qRound(screen.width() * 0.8),
+                                             qRound(screen.height() * 0.8));
+    scriptDebugger->attachTo(scriptEngine);
+    debug(tr("Script debugger attached."), Brivane::Info);
+}
+
+void Application::detachScriptDebugger()
+{
+    if (!scriptDebugger)
+        return;
+    scriptDebugger->standardWindow()->close();
+    scriptDebugger->detach();
+    delete scriptDebugger;
+    scriptDebugger = nullptr;
+    debug(tr("Script debugger detached."), Brivane::Info);
+}
+
+void Application::scriptingProperties(QScriptValue v)
+{
+    debug(QStringLiteral("----- Properties of %1 -----").arg(v.toString()), Brivane::Info);
+    QScriptValueIterator iterator(v);
+    while (iterator.hasNext()) {
+        iterator.next();
+        if (!iterator.value().isFunction())
+            debug(QStringLiteral("%1: %2").arg(iterator.name(), iterator.value().toString()),
+                  Brivane::Info);
+    }
+}
+
+void Application::globalScriptingProperties()
+{
+    if (scriptEngine)
+        scriptingProperties(scriptEngine->globalObject());
+}
+
+bool Application::canCreateOpenGLContext()
+{
+    // Asking for versions or a GL viewport without a working context crashes on some
+    // platforms (offscreen, remote displays), so try one first.
+    if (QOpenGLContext::currentContext())
+        return true;
+    if (!QGLFormat::hasOpenGL())
+        return false;
+    QOpenGLContext probe;
+    return probe.create();
+}
+
+QStringList Application::supportedOpenGLVersions()
+{
+    static const struct {
+        QGLFormat::OpenGLVersionFlag flag;
+        const char* text;
+    } versions[] = {
+        {QGLFormat::OpenGL_Version_1_1, "1.1"}, {QGLFormat::OpenGL_Version_1_2, "1.2"},
+        {QGLFormat::OpenGL_Version_1_3, "1.3"}, {QGLFormat::OpenGL_Version_1_4, "1.4"},
+        {QGLFormat::OpenGL_Version_1_5, "1.5"}, {QGLFormat::OpenGL_Version_2_0, "2.0"},
+        {QGLFormat::OpenGL_Version_2_1, "2.1"}, {QGLFormat::OpenGL_Version_3_0, "3.0"},
+    };
+    QStringList list;
+    if (!canCreateOpenGLContext())
+        return list;
+    const QGLFormat::OpenGLVersionFlags flags = QGLFormat::openGLVersionFlags();
+    for (const auto& version : versions) {
+        if (flags.testFlag(version.flag))
+            list << QLatin1String(version.text);
+    }
+    return list;
+}
+
+void Application::showSupportedOpenGLVersions()
+{
+    debug(tr("Supported OpenGL Versions:"), Brivane::Info);
+    for (const QString& version : supportedOpenGLVersions())
+        debug(version, Brivane::Info);
+}
+
+bool Application::isOpenGLVersionSupported(QString version)
+{
+    return supportedOpenGLVersions().contains(version);
+}

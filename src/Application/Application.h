@@ -1,0 +1,90 @@
+#pragma once
+
+#include "Application/Brivane.h"
+
+#include <QApplication>
+#include <QHash>
+#include <QLocale>
+#include <QScriptValue>
+#include <QStringList>
+
+class MainWindow;
+class QScriptEngine;
+class QScriptEngineDebugger;
+class QScriptValue;
+class QTranslator;
+class QUndoStack;
+
+// The program's QApplication and root object. It sets the process identity, owns the
+// translators, the undo stack, the script engine and the main window, empties the temporary
+// directory at start, and offers the whole-program slots that scripts and tools call.
+class Application : public QApplication
+{
+    Q_OBJECT
+
+public:
+    Application(int& argc, char** argv);
+    ~Application() override;
+
+    // The running Application, or null where the process has a plain QApplication (tests of
+    // single classes).
+    static Application* instance();
+
+    // Sends a console message through the running Application's debug(); without one the
+    // message goes to the framework log, where tests can read it.
+    static void report(const QString& text, Brivane::ConsoleMessageType messageType = Brivane::Info);
+
+    // The temporary directory of the program: the system's temporary path and the
+    // application name.
+    static QString temporaryDirectory();
+
+    // Second stage of start-up: the main window, its layout, the script engine.
+    void initialise();
+
+    // Creates the script engine, imports the extensions, sets the globals app, world,
+    // mainWindow and graphicsView, registers the item types and runs the autoload scripts.
+    void setupScriptEngine();
+    // Evaluates the *.script files of a directory, ToolBox.script first, then by name with
+    // case ignored, with one console line for each.
+    void autoloadScripts(const QString& directory);
+    void attachScriptDebugger();
+    void detachScriptDebugger();
+
+    // Whether an OpenGL context can be made here at all.
+    static bool canCreateOpenGLContext();
+    // OpenGL versions the system supports, in ascending order ("1.1" ... "3.0").
+    static QStringList supportedOpenGLVersions();
+
+    bool initialised = false;
+    MainWindow* mainWindow = nullptr;
+    QScriptEngine* scriptEngine = nullptr;
+    // The engine's own Function constructor, taken before any script could replace it.
+    QScriptValue scriptFunctionConstructor;
+    QScriptEngineDebugger* scriptDebugger = nullptr;
+    QUndoStack* undoStack = nullptr;
+    QString fileName;
+    QTranslator* translator = nullptr;
+    QHash<QLocale::Language, QTranslator*> translators;
+
+signals:
+    void fileCreated();
+    void fileSaved(QString filename);
+    void fileLoaded(QString filename);
+
+public slots:
+    void setLanguage(QLocale::Language language);
+    QLocale::Language language();
+    void debug(QString text, Brivane::ConsoleMessageType messageType);
+    void debug(QString text);
+    void grabWidgetUnderCursor();
+    void newFile(bool createGround = false);
+    bool evaluateScript(QString scriptFilename);
+    void scriptingProperties(QScriptValue v);
+    void globalScriptingProperties();
+    void showSupportedOpenGLVersions();
+    bool isOpenGLVersionSupported(QString version);
+
+protected slots:
+    void postInitialise();
+    void onAboutToQuit();
+};

@@ -1,0 +1,3 @@
+#include "Files/SceneFile.h"
+
+const QString SceneFile::extension = QStringLiteral("scene");

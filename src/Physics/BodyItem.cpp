@@ -1,0 +1,537 @@
+#include "Physics/BodyItem.h"
+
+#include "Application/Settings.h"
+#include "General/XPolygonF.h"
+#include "NemuToolbox/Toolbox.h"
+#include "Physics/FlagsString.h"
+#include "Physics/PhysicsWorld.h"
+#include "View/CosmeticPens.h"
+
+#include <QGraphicsEllipseItem>
+#include <QGraphicsScene>
+#include <QPainter>
+#include <cmath>
+
+double BodyItem::zValueCounter = 0.0;
+
+namespace {
+// The float value of pi/180 as a double, and 180/pi as a float: the factors the properties
+// have always used, so that scenes read back to the same digits.
+const double radiansPerDegree = 0.017453293005625408;
+const float degreesPerRadian = 57.295776f;
+
+} // namespace
+
+double BodyItem::degreesToRadians(double degrees)
+{
+    return degrees * radiansPerDegree;
+}
+
+double BodyItem::radiansToDegrees(double radians)
+{
+    return float(radians) * degreesPerRadian;
+}
+
+BodyItem::BodyItem(double x, double y, double theta)
+{
+    Settings* settings = Settings::instance();
+    bodyDefinition.position.Set(float(x), float(y));
+    bodyDefinition.angle = float(theta);
+    bodyDefinition.linearVelocity.SetZero();
+    bodyDefinition.angularVelocity = 0.0f;
+    bodyDefinition.awake = true;
+    bodyDefinition.enabled = true;
+    bodyDefinition.fixedRotation = false;
+    bodyDefinition.gravityScale = 1.0f;
+    bodyDefinition.type = settings->isStaticDefault ? b2_staticBody : b2_dynamicBody;
+    bodyDefinition.allowSleep = settings->allowSleepDefault;
+    bodyDefinition.bullet = settings->isBulletDefault;
+    bodyDefinition.linearDamping = float(settings->linearDampingDefault);
+    bodyDefinition.angularDamping = float(settings->angularDampingDefault);
+    bodyDefinition.userData.pointer = reinterpret_cast<uintptr_t>(this);
+    frictionValue = settings->frictionDefault;
+    restitutionValue = settings->restitutionDefault;
+    pBody = PhysicsWorld::box2DWorld()->CreateBody(&bodyDefinition);
+}
+
+BodyItem::~BodyItem()
+{
+    destroyFixtures();
+    deleteFixtureDefinitions();
+    if (b2World* world = PhysicsWorld::box2DWorld())
+        world->DestroyBody(pBody);
+}
+
+bool BodyItem::isActive() const
+{
+    return pBody->IsEnabled();
+}
+
+void BodyItem::setActive(bool active)
+{
+    if (active == pBody->IsEnabled())
+        return;
+    pBody->SetEnabled(active);
+    pGraphicsItem->setVisible(active);
+}
+
+void BodyItem::update()
+{
+    // Box2D 2.4 never lets a static body be awake, so a static body moved by a setter would
+    // not be redrawn: it counts as awake here.
+    if (pBody->IsEnabled() && (pBody->IsAwake() || pBody->GetType() == b2_staticBody)) {
+        const b2Vec2& position = pBody->GetPosition();
+        pGraphicsItem->setPos(position.x, position.y);
+        pGraphicsItem->setRotation(pBody->GetAngle() * degreesPerRadian);
+    }
+    runOnUpdate();
+}
+
+QList<QPolygonF> BodyItem::triangles() const
+{
+    QList<QPolygonF> result;
+    for (const XPolygonF& triangle : XPolygonF(worldPolygon()).triangulate())
+        result.append(triangle);
+    return result;
+}
+
+void BodyItem::runOnContact(const QScriptValue& other)
+{
+    runEventScript(onContactScript, "onContact", QScriptValueList() << other, true);
+}
+
+BodyItem::BodyType BodyItem::bodyType() const
+{
+    return BodyType(pBody->GetType());
+}
+
+bool BodyItem::isBullet() const
+{
+    return pBody->IsBullet();
+}
+
+bool BodyItem::allowSleeping() const
+{
+    return pBody->IsSleepingAllowed();
+}
+
+bool BodyItem::fixedRotation() const
+{
+    return pBody->IsFixedRotation();
+}
+
+double BodyItem::positionX() const
+{
+    return pBody->GetPosition().x;
+}
+
+double BodyItem::positionY() const
+{
+    return pBody->GetPosition().y;
+}
+
+double BodyItem::angle() const
+{
+    return radiansToDegrees(pBody->GetAngle());
+}
+
+double BodyItem::linearDamping() const
+{
+    return pBody->GetLinearDamping();
+}
+
+double BodyItem::angularDamping() const
+{
+    return pBody->GetAngularDamping();
+}
+
+double BodyItem::mass() const
+{
+    return pBody->GetMass();
+}
+
+double BodyItem::angularVelocity() const
+{
+    return pBody->GetAngularVelocity();
+}
+
+double BodyItem::linearVelocityX() const
+{
+    return pBody->GetLinearVelocity().x;
+}
+
+double BodyItem::linearVelocityY() const
+{
+    return pBody->GetLinearVelocity().y;
+}
+
+void BodyItem::setOnContact(QString script)
+{
+    setEventScript(onContactScript, "onContact", QStringLiteral("other"), script);
+}
+
+void BodyItem::setBodyType(BodyType type)
+{
+    if (type == bodyType() || type < StaticBody || type > DynamicBody)
+        return;
+    pBody->SetType(b2BodyType(type));
+    bodyDefinition.type = b2BodyType(type);
+    QBrush newBrush = brush();
+    if (type == StaticBody) {
+        newBrush.setTexture(QPixmap(QStringLiteral(":/images/wall.png")));
+    } else {
+        newBrush.setStyle(Qt::SolidPattern);
+        if (newBrush.color() == Qt::black)
+            newBrush.setColor(Nemu::Toolbox::randomColor());
+    }
+    setBrush(newBrush);
+}
+
+void BodyItem::setBullet(bool bullet)
+{
+    if (bullet == isBullet())
+        return;
+    pBody->SetBullet(bullet);
+    bodyDefinition.bullet = bullet;
+}
+
+void BodyItem::setAllowSleeping(bool allow)
+{
+    if (allow == allowSleeping())
+        return;
+    pBody->SetSleepingAllowed(allow); // turning it off wakes the body
+    bodyDefinition.allowSleep = allow;
+}
+
+void BodyItem::setFixedRotation(bool fixed)
+{
+    if (fixed == fixedRotation())
+        return;
+    pBody->SetFixedRotation(fixed);
+    bodyDefinition.fixedRotation = fixed;
+    if (!isStatic())
+        pBody->SetAngularVelocity(0.0f);
+    update();
+    pBody->SetAwake(true);
+}
+
+void BodyItem::setShowLocalCenter(bool show)
+{
+    localCenterShown = show;
+    centreMarker->setVisible(show);
+}
+
+void BodyItem::setPositionX(double x)
+{
+    setXForm(x, positionY(), pBody->GetAngle());
+    update();
+}
+
+void BodyItem::setPositionY(double y)
+{
+    setXForm(positionX(), y, pBody->GetAngle());
+    update();
+}
+
+void BodyItem::setAngle(double angle)
+{
+    setXForm(positionX(), positionY(), degreesToRadians(angle));
+    update();
+}
+
+void BodyItem::setDensity(double density)
+{
+    // Box2D asserts on a negative or non-finite density; scripts can pass anything.
+    if (density == densityValue || !std::isfinite(density) || density < 0.0)
+        return;
+    densityValue = density;
+    for (b2FixtureDef* definition : qAsConst(fixtureDefinitions))
+        definition->density = float(density);
+    for (b2Fixture* fixture : qAsConst(fixtures))
+        fixture->SetDensity(float(density));
+    pBody->ResetMassData();
+    pBody->SetAwake(true);
+}
+
+void BodyItem::setFriction(double friction)
+{
+    if (friction == frictionValue || !std::isfinite(friction))
+        return;
+    frictionValue = friction;
+    for (b2FixtureDef* definition : qAsConst(fixtureDefinitions))
+        definition->friction = float(friction);
+    recreateFixtures();
+}
+
+void BodyItem::setRestitution(double restitution)
+{
+    if (restitution == restitutionValue || !std::isfinite(restitution))
+        return;
+    restitutionValue = restitution;
+    for (b2FixtureDef* definition : qAsConst(fixtureDefinitions))
+        definition->restitution = float(restitution);
+    recreateFixtures();
+}
+
+void BodyItem::setLinearDamping(double damping)
+{
+    if (damping == linearDamping() || !std::isfinite(damping))
+        return;
+    bodyDefinition.linearDamping = float(damping);
+    pBody->SetLinearDamping(float(damping));
+}
+
+void BodyItem::setAngularDamping(double damping)
+{
+    if (damping == angularDamping() || !std::isfinite(damping))
+        return;
+    bodyDefinition.angularDamping = float(damping);
+    pBody->SetAngularDamping(float(damping));
+}
+
+void BodyItem::setAngularVelocity(double velocity)
+{
+    if (isStatic() || !std::isfinite(velocity))
+        return;
+    if (velocity != 0.0)
+        pBody->SetAwake(true);
+    pBody->SetAngularVelocity(float(velocity));
+    update();
+}
+
+void BodyItem::setLinearVelocityX(double x)
+{
+    if (isStatic() || !std::isfinite(x))
+        return;
+    const b2Vec2 velocity(float(x), pBody->GetLinearVelocity().y);
+    if (velocity.LengthSquared() > 0.0f)
+        pBody->SetAwake(true);
+    pBody->SetLinearVelocity(velocity);
+}
+
+void BodyItem::setLinearVelocityY(double y)
+{
+    if (isStatic() || !std::isfinite(y))
+        return;
+    const b2Vec2 velocity(pBody->GetLinearVelocity().x, float(y));
+    if (velocity.LengthSquared() > 0.0f)
+        pBody->SetAwake(true);
+    pBody->SetLinearVelocity(velocity);
+}
+
+void BodyItem::setFilterGroupIndex(int index)
+{
+    if (index == groupIndex)
+        return;
+    groupIndex = index;
+    writeFilter();
+}
+
+void BodyItem::setFilterCategories(QString categories)
+{
+    const QString normal = FlagsString(categories).text();
+    if (normal == this->categories)
+        return;
+    this->categories = normal;
+    writeFilter();
+}
+
+void BodyItem::setFilterMasks(QString masks)
+{
+    const QString normal = FlagsString(masks).text();
+    if (normal == this->masks)
+        return;
+    this->masks = normal;
+    writeFilter();
+}
+
+void BodyItem::writeFilter()
+{
+    b2Filter filter;
+    filter.groupIndex = int16(groupIndex);
+    filter.categoryBits = FlagsString(categories).number();
+    filter.maskBits = FlagsString(masks).number();
+    for (b2FixtureDef* definition : qAsConst(fixtureDefinitions))
+        definition->filter = filter;
+    for (b2Fixture* fixture : qAsConst(fixtures))
+        fixture->SetFilterData(filter);
+}
+
+bool BodyItem::isStatic() const
+{
+    return pBody->GetType() == b2_staticBody;
+}
+
+void BodyItem::autoAdjustTexture()
+{
+    QBrush newBrush = brush();
+    const QPixmap texture = newBrush.texture();
+    if (texture.isNull())
+        return;
+    const QRectF bounds = pGraphicsItem->boundingRect();
+    const double w = bounds.width();
+    const double h = bounds.height();
+    newBrush.setTransform(QTransform(w / texture.width(), 0, 0, -(h / texture.height()), w * 0.5,
+                                     h * 0.5));
+    setBrush(newBrush);
+}
+
+void BodyItem::setBasicPropertiesFrom(BodyItem* pBodyItem)
+{
+    if (!pBodyItem)
+        return;
+    const QBrush otherBrush = pBodyItem->brush();
+    const QPixmap texture = otherBrush.texture();
+    const double m11 = otherBrush.transform().m11();
+    const double m22 = otherBrush.transform().m22();
+    QBrush newBrush = otherBrush;
+    // A textured brush becomes a picture of what the scene shows under this piece. A zero
+    // scale, which only a hand-made scene file can hold, keeps the brush as it is.
+    if (!texture.isNull() && m11 != 0.0 && m22 != 0.0 && pGraphicsItem->scene()) {
+        const QRectF rect = worldPolygon().boundingRect();
+        const QSize size(qRound(qAbs(rect.width() / m11)), qRound(qAbs(rect.height() / m22)));
+        if (!size.isEmpty() && size.width() <= 8192 && size.height() <= 8192) {
+            QImage image(size, QImage::Format_RGB32);
+            image.fill(Qt::white);
+            pBodyItem->graphicsItem()->setSelected(false);
+            QPainter painter(&image);
+            painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+            pGraphicsItem->setVisible(false);
+            pGraphicsItem->scene()->render(&painter, QRectF(), rect, Qt::KeepAspectRatio);
+            pGraphicsItem->setVisible(true);
+            painter.end();
+            newBrush = QBrush(QPixmap::fromImage(image));
+            newBrush.setTransform(
+                QTransform(m11, 0, 0, qAbs(m22), -rect.width() * 0.5, -rect.height() * 0.5));
+        }
+    }
+    setZValue(pBodyItem->zValue());
+    setBodyType(pBodyItem->bodyType());
+    setAllowSleeping(pBodyItem->allowSleeping());
+    setDensity(pBodyItem->density());
+    setFriction(pBodyItem->friction());
+    setRestitution(pBodyItem->restitution());
+    setFilterGroupIndex(pBodyItem->filterGroupIndex());
+    setLinearVelocity(pBodyItem->linearVelocityX(), pBodyItem->linearVelocityY());
+    const float spin = pBodyItem->body()->GetAngularVelocity();
+    if (spin != 0.0f)
+        pBody->SetAwake(true);
+    pBody->SetAngularVelocity(spin);
+    update();
+    setBrush(newBrush);
+}
+
+void BodyItem::setLinearVelocity(double x, double y)
+{
+    pBody->SetLinearVelocity(b2Vec2(float(x), float(y)));
+    pBody->SetAwake(true);
+}
+
+void BodyItem::setXForm(double x, double y, double theta)
+{
+    pBody->SetTransform(b2Vec2(float(x), float(y)), float(theta));
+    pBody->SetAwake(true);
+    update();
+}
+
+void BodyItem::applyForce(QLineF line)
+{
+    if (pBody->GetType() != b2_dynamicBody)
+        return;
+    pBody->ApplyForce(b2Vec2(float(line.dx()), float(line.dy())),
+                      b2Vec2(float(line.x1()), float(line.y1())), true);
+}
+
+void BodyItem::applyTorque(double torque)
+{
+    if (pBody->GetType() == b2_dynamicBody)
+        pBody->ApplyTorque(float(torque), true);
+}
+
+void BodyItem::applyLinearImpulse(QLineF line)
+{
+    if (pBody->GetType() != b2_dynamicBody)
+        return;
+    pBody->ApplyLinearImpulse(b2Vec2(float(line.dx()), float(line.dy())),
+                              b2Vec2(float(line.x1()), float(line.y1())), true);
+}
+
+void BodyItem::applyAngularImpulse(double impulse)
+{
+    if (pBody->GetType() == b2_dynamicBody)
+        pBody->ApplyAngularImpulse(float(impulse), true);
+}
+
+QPointF BodyItem::position() const
+{
+    const b2Vec2& position = pBody->GetPosition();
+    return QPointF(position.x, position.y);
+}
+
+void BodyItem::createFixture(b2Shape* shape)
+{
+    auto* definition = new b2FixtureDef();
+    definition->shape = shape;
+    definition->density = float(densityValue);
+    definition->friction = float(frictionValue);
+    definition->restitution = float(restitutionValue);
+    definition->isSensor = false;
+    definition->filter.groupIndex = int16(groupIndex);
+    definition->filter.categoryBits = FlagsString(categories).number();
+    definition->filter.maskBits = FlagsString(masks).number();
+    fixtureDefinitions.append(definition);
+    fixtures.append(pBody->CreateFixture(definition));
+}
+
+void BodyItem::destroyFixtures()
+{
+    for (b2Fixture* fixture : qAsConst(fixtures))
+        pBody->DestroyFixture(fixture);
+    fixtures.clear();
+}
+
+void BodyItem::deleteFixtureDefinitions()
+{
+    for (b2FixtureDef* definition : qAsConst(fixtureDefinitions))
+        delete definition->shape;
+    qDeleteAll(fixtureDefinitions);
+    fixtureDefinitions.clear();
+}
+
+void BodyItem::recreateFixtures()
+{
+    destroyFixtures();
+    for (b2FixtureDef* definition : qAsConst(fixtureDefinitions))
+        fixtures.append(pBody->CreateFixture(definition));
+}
+
+void BodyItem::initialiseGraphics(double x, double y, double theta)
+{
+    pGraphicsItem->setPos(x, y);
+    pGraphicsItem->setRotation(theta * 57.29577791868205);
+    QBrush newBrush = isStatic() ? QBrush(QPixmap(QStringLiteral(":/images/wall.png")))
+                                 : Nemu::Toolbox::randomBrush();
+    newBrush.setTransform(QTransform(TextureMatrix));
+    setBrush(newBrush);
+    CosmeticPens::apply(pGraphicsItem);
+    pGraphicsItem->setFlag(QGraphicsItem::ItemIsSelectable);
+    zValueCounter += 1.0;
+    pGraphicsItem->setZValue(zValueCounter);
+
+    centreMarker = new QGraphicsEllipseItem(-0.1, -0.1, 0.2, 0.2, pGraphicsItem);
+    centreMarker->setPen(QPen(QBrush(Qt::black), 0.1, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    const b2Vec2 centre = pBody->GetLocalCenter();
+    centreMarker->setPos(centre.x, centre.y);
+    centreMarker->setVisible(false);
+    localCenterShown = false;
+}
+
+QTransform BodyItem::itemTransform() const
+{
+    QTransform transform;
+    const b2Vec2& position = pBody->GetPosition();
+    transform.translate(position.x, position.y);
+    transform.rotate(pGraphicsItem->rotation());
+    transform.scale(pGraphicsItem->transform().m11(), pGraphicsItem->transform().m22());
+    return transform;
+}

@@ -1,0 +1,32 @@
+#include "Physics/ForceItem.h"
+
+#include "Physics/BodyItem.h"
+
+#include <QGraphicsItem>
+
+ForceItem::ForceItem(const QList<BodyItem*>& bodyItems)
+{
+    for (BodyItem* body : bodyItems)
+        guardedBodies.append(body);
+}
+
+void ForceItem::setActive(bool active)
+{
+    this->active = active;
+    pGraphicsItem->setVisible(active);
+}
+
+QList<BodyItem*> ForceItem::bodyItems() const
+{
+    QList<BodyItem*> bodies;
+    for (const QPointer<BodyItem>& body : guardedBodies) {
+        if (body)
+            bodies.append(body);
+    }
+    return bodies;
+}
+
+BodyItem* ForceItem::bodyItem(int index) const
+{
+    return guardedBodies.value(index);
+}

@@ -1,0 +1,619 @@
+#include "Physics/PhysicsWorld.h"
+
+#include "Application/Application.h"
+#include "Application/Settings.h"
+#include "Gui/MainWindow.h"
+#include "Physics/BalloonItem.h"
+#include "Physics/ContactListener.h"
+#include "Physics/DistanceJoint.h"
+#include "Physics/PrismaticJoint.h"
+#include "Physics/PulleyJoint.h"
+#include "Physics/RevoluteJoint.h"
+#include "Physics/PhysicsItem.h"
+#include "Physics/RectangleItem.h"
+#include "Physics/JointSoftness.h"
+#include "View/GraphicsScene.h"
+#include "View/GraphicsView.h"
+
+#include <QDir>
+#include <QGraphicsItem>
+#include <QScriptEngine>
+#include <box2d/box2d.h>
+#include <cmath>
+
+PhysicsWorld* PhysicsWorld::worldInstance = nullptr;
+b2World* PhysicsWorld::sharedBox2DWorld = nullptr;
+
+class PhysicsWorld::IterationGuard
+{
+public:
+    explicit IterationGuard(PhysicsWorld* world)
+        : world(world)
+    {
+        ++world->iterationDepth;
+    }
+    ~IterationGuard()
+    {
+        if (--world->iterationDepth == 0)
+            world->deleteRemovedItems();
+    }
+
+private:
+    PhysicsWorld* world;
+};
+
+PhysicsWorld* PhysicsWorld::instance()
+{
+    if (!worldInstance)
+        worldInstance = new PhysicsWorld();
+    return worldInstance;
+}
+
+void PhysicsWorld::destroy()
+{
+    delete worldInstance;
+    worldInstance = nullptr;
+}
+
+PhysicsWorld::PhysicsWorld()
+    : timer(this)
+    , world(new b2World(b2Vec2(0.0f, -10.0f)))
+{
+    sharedBox2DWorld = world;
+    const b2BodyDef backgroundDefinition;
+    background = world->CreateBody(&backgroundDefinition);
+    listener = new ContactListener();
+    world->SetContactListener(listener);
+    scene = new GraphicsScene(this);
+    connect(&timer, &QTimer::timeout, this, &PhysicsWorld::step);
+}
+
+PhysicsWorld::~PhysicsWorld()
+{
+    timer.stop();
+    // Items delete their graphics items, so they go before the scene, a child of this object.
+    removeAllBodies();
+    const PhysicsItemList remaining = itemList;
+    for (PhysicsItem* item : remaining)
+        detachItem(item);
+    deleteRemovedItems();
+    mouseJointPointer = nullptr;
+    delete world;
+    if (sharedBox2DWorld == world)
+        sharedBox2DWorld = nullptr;
+    delete listener;
+}
+
+double PhysicsWorld::gravityX() const
+{
+    return world->GetGravity().x;
+}
+
+double PhysicsWorld::gravityY() const
+{
+    return world->GetGravity().y;
+}
+
+int PhysicsWorld::stepFrequency() const
+{
+    return qRound(1.0 / stepSeconds);
+}
+
+int PhysicsWorld::bodyCount() const
+{
+    return world->GetBodyCount();
+}
+
+int PhysicsWorld::jointCount() const
+{
+    return world->GetJointCount();
+}
+
+void PhysicsWorld::setGravityX(double gravityX)
+{
+    b2Vec2 gravity = world->GetGravity();
+    if (double(gravity.x) == gravityX)
+        return;
+    gravity.x = float(gravityX);
+    world->SetGravity(gravity);
+    for (b2Body* body = world->GetBodyList(); body; body = body->GetNext())
+        body->SetAwake(true);
+    emit gravityXChanged(gravityX);
+}
+
+void PhysicsWorld::setGravityY(double gravityY)
+{
+    b2Vec2 gravity = world->GetGravity();
+    if (double(gravity.y) == gravityY)
+        return;
+    gravity.y = float(gravityY);
+    world->SetGravity(gravity);
+    for (b2Body* body = world->GetBodyList(); body; body = body->GetNext())
+        body->SetAwake(true);
+    emit gravityYChanged(gravityY);
+}
+
+void PhysicsWorld::setStepFrequency(int stepFrequency)
+{
+    stepFrequency = qBound(30, stepFrequency, 120);
+    if (stepFrequency == this->stepFrequency())
+        return;
+    stepSeconds = 1.0 / stepFrequency;
+    emit stepFrequencyChanged(stepFrequency);
+}
+
+void PhysicsWorld::setVelocityIterations(int velocityIterations)
+{
+    velocityIterations = qBound(1, velocityIterations, 99);
+    if (velocityIterations == velocityIterationCount)
+        return;
+    velocityIterationCount = velocityIterations;
+    emit velocityIterationsChanged(velocityIterations);
+}
+
+void PhysicsWorld::setPositionIterations(int positionIterations)
+{
+    positionIterations = qBound(1, positionIterations, 99);
+    if (positionIterations == positionIterationCount)
+        return;
+    positionIterationCount = positionIterations;
+    emit positionIterationsChanged(positionIterations);
+}
+
+void PhysicsWorld::setWarmStarting(bool warmStarting)
+{
+    if (warmStarting == warmStartingEnabled)
+        return;
+    warmStartingEnabled = warmStarting;
+    emit warmStartingChanged(warmStarting);
+}
+
+void PhysicsWorld::setContinuousPhysics(bool continuousPhysics)
+{
+    if (continuousPhysics == continuousPhysicsEnabled)
+        return;
+    continuousPhysicsEnabled = continuousPhysics;
+    emit continuousPhysicsChanged(continuousPhysics);
+}
+
+void PhysicsWorld::setSeconds(double seconds)
+{
+    simulatedSeconds = seconds;
+}
+
+void PhysicsWorld::setRender(bool render)
+{
+    renderFrames = render;
+}
+
+void PhysicsWorld::start()
+{
+    {
+        IterationGuard guard(this);
+        const PhysicsItemList snapshot = itemList;
+        for (PhysicsItem* item : snapshot) {
+            if (!isRemoved(item))
+                item->runOnStart();
+        }
+    }
+    timer.start(Settings::instance()->timerInterval);
+    emit started();
+}
+
+void PhysicsWorld::stop()
+{
+    {
+        IterationGuard guard(this);
+        const PhysicsItemList snapshot = itemList;
+        for (PhysicsItem* item : snapshot) {
+            if (!isRemoved(item))
+                item->runOnStop();
+        }
+    }
+    timer.stop();
+    emit stopped();
+}
+
+bool PhysicsWorld::running() const
+{
+    return timer.isActive();
+}
+
+void PhysicsWorld::toggle()
+{
+    if (running())
+        stop();
+    else
+        start();
+}
+
+int PhysicsWorld::physicsItemInstanceCounter() const
+{
+    return PhysicsItem::physicsItemInstanceCounter;
+}
+
+void PhysicsWorld::setPhysicsItemInstanceCounter(int counter)
+{
+    PhysicsItem::physicsItemInstanceCounter = counter;
+}
+
+XPropertyList PhysicsWorld::properties()
+{
+    return XPropertyList::read(this);
+}
+
+void PhysicsWorld::getProperties(XPropertyList& list)
+{
+    list = XPropertyList::read(this);
+}
+
+void PhysicsWorld::setProperties(XPropertyList list)
+{
+    XPropertyList::write(this, list);
+}
+
+bool PhysicsWorld::setSelectionSetProperty(QString propertyName, QVariant value)
+{
+    return PhysicsItemList(scene).setProperty(propertyName, value);
+}
+
+void PhysicsWorld::getState(PhysicsWorldState& state)
+{
+    state.worldProperties = XPropertyList::read(this);
+    state.itemProperties.clear();
+    for (PhysicsItem* item : qAsConst(itemList)) {
+        if (item->isActive())
+            state.itemProperties.append(XPropertyList::read(item));
+    }
+}
+
+void PhysicsWorld::setState(PhysicsWorldState state)
+{
+    IterationGuard guard(this);
+    XPropertyList::write(this, state.worldProperties);
+    // A list whose item a script has deleted since the snapshot is skipped.
+    for (const XPropertyList& list : qAsConst(state.itemProperties)) {
+        auto* item = qobject_cast<PhysicsItem*>(list.object.data());
+        if (item && !isRemoved(item))
+            XPropertyList::write(item, list);
+    }
+    const PhysicsItemList snapshot = itemList;
+    for (PhysicsItem* item : snapshot) {
+        if (!isRemoved(item))
+            item->update();
+    }
+}
+
+void PhysicsWorld::createMouseJoint(BodyItem* pBodyItem, double x, double y)
+{
+    if (!pBodyItem)
+        return;
+    b2Body* body = pBodyItem->body();
+    const float mass = body->GetMass();
+    if (mass == 0.0f)
+        return;
+    b2MouseJointDef definition;
+    definition.bodyA = background;
+    definition.bodyB = body;
+    definition.collideConnected = false;
+    definition.target.Set(float(x), float(y));
+    definition.maxForce = mass * 3000.0f;
+    JointSoftness::apply(definition, 5.0, 0.7);
+    mouseJointPointer = static_cast<b2MouseJoint*>(world->CreateJoint(&definition));
+    body->SetAwake(true);
+}
+
+void PhysicsWorld::destroyMouseJoint()
+{
+    if (!mouseJointPointer)
+        return;
+    world->DestroyJoint(mouseJointPointer);
+    mouseJointPointer = nullptr;
+}
+
+void PhysicsWorld::setMouseJointTarget(double x, double y)
+{
+    if (mouseJointPointer)
+        mouseJointPointer->SetTarget(b2Vec2(float(x), float(y)));
+}
+
+void PhysicsWorld::step()
+{
+    IterationGuard guard(this);
+    world->SetWarmStarting(warmStartingEnabled);
+    world->SetContinuousPhysics(continuousPhysicsEnabled);
+    listener->contactCount = 0;
+    world->Step(float(stepSeconds), velocityIterationCount, positionIterationCount);
+    // Forces applied from here on, by springs, balloons and scripts, act in the next step.
+    world->ClearForces();
+    simulatedSeconds += stepSeconds;
+    dispatchContacts();
+
+    // Items added by a script during the loop wait for the next step.
+    const PhysicsItemList snapshot = itemList;
+    for (PhysicsItem* item : snapshot) {
+        if (!isRemoved(item))
+            item->update();
+    }
+    if (renderFrames)
+        saveFrame();
+    emit stepFinished();
+}
+
+void PhysicsWorld::dispatchContacts()
+{
+    // The count is read anew for each point: a script may not add points, but this keeps the
+    // loop honest if one ever does. A body removed by a script meanwhile yields null.
+    for (int i = 0; i < listener->contactCount; ++i) {
+        const ContactPoint& point = listener->contacts[i];
+        if (point.state != b2_addState)
+            continue;
+        BodyItem* first = bodyItemFromBody(point.fixtureA->GetBody());
+        BodyItem* second = bodyItemFromBody(point.fixtureB->GetBody());
+        if (!first || !second)
+            continue;
+        first->runOnContact(second->toScriptValue());
+        if (!isRemoved(first) && !isRemoved(second))
+            second->runOnContact(first->toScriptValue());
+    }
+}
+
+void PhysicsWorld::saveFrame()
+{
+    const int frame = frameCount++;
+    Application* application = Application::instance();
+    if (!application || !application->mainWindow)
+        return;
+    const QString path = QDir::tempPath() + QDir::separator() + QCoreApplication::applicationName()
+        + QDir::separator() + QStringLiteral("frame%1.png").arg(frame, 5, 10, QLatin1Char('0'));
+    application->mainWindow->graphicsView()->image().save(path);
+}
+
+void PhysicsWorld::clear()
+{
+    stop();
+    removeAllDynamicBodies();
+    removeAllStaticBodies();
+    PhysicsItem::physicsItemInstanceCounter = 0;
+    setStepFrequency(60);
+    setVelocityIterations(8);
+    setPositionIterations(8);
+    setWarmStarting(true);
+    setContinuousPhysics(true);
+    renderFrames = false;
+    frameCount = 0;
+    simulatedSeconds = 0.0;
+}
+
+PhysicsItemList PhysicsWorld::activeItems() const
+{
+    return itemList.activeItems();
+}
+
+QList<BodyItem*> PhysicsWorld::bodyItems() const
+{
+    return itemList.bodyItems();
+}
+
+QList<JointItem*> PhysicsWorld::jointItems() const
+{
+    return itemList.jointItems();
+}
+
+QList<JointItem*> PhysicsWorld::jointList(BodyItem* pBodyItem) const
+{
+    return itemList.jointList(pBodyItem);
+}
+
+PhysicsItemList PhysicsWorld::dependentPhysicsItems(BodyItem* pBodyItem) const
+{
+    PhysicsItemList dependents;
+    for (JointItem* joint : jointList(pBodyItem))
+        dependents.append(joint);
+    return dependents;
+}
+
+JointItem* PhysicsWorld::jointItemFromGraphicsItem(QGraphicsItem* graphicsItem) const
+{
+    return itemList.jointItemFromGraphicsItem(graphicsItem);
+}
+
+BodyItem* PhysicsWorld::bodyItemFromGraphicsItem(QGraphicsItem* graphicsItem) const
+{
+    return itemList.bodyItemFromGraphicsItem(graphicsItem);
+}
+
+BodyItem* PhysicsWorld::bodyItemFromBody(b2Body* body) const
+{
+    if (!body)
+        return nullptr;
+    auto* item = reinterpret_cast<BodyItem*>(body->GetUserData().pointer);
+    return item && !isRemoved(item) ? item : nullptr;
+}
+
+PhysicsItem* PhysicsWorld::physicsItemFromName(QString name) const
+{
+    return itemList.physicsItemFromName(name);
+}
+
+PhysicsItem* PhysicsWorld::physicsItemFromGraphicsItem(QGraphicsItem* graphicsItem) const
+{
+    return itemList.physicsItemFromGraphicsItem(graphicsItem);
+}
+
+QRectF PhysicsWorld::itemsBoundingRect() const
+{
+    return itemList.boundingRect();
+}
+
+bool PhysicsWorld::contains(PhysicsItem* item) const
+{
+    return itemList.contains(item);
+}
+
+void PhysicsWorld::selectAll()
+{
+    itemList.setSelected(true);
+}
+
+void PhysicsWorld::deselectAll()
+{
+    itemList.setSelected(false);
+}
+
+RectangleItem* PhysicsWorld::createRectangle(double x, double y, double theta, double w, double h)
+{
+    auto* item = new RectangleItem(x, y, theta, w, h);
+    addPhysicsItem(item);
+    return item;
+}
+
+CircleItem* PhysicsWorld::createCircle(double x, double y, double theta, double r)
+{
+    auto* item = new CircleItem(x, y, theta, r);
+    addPhysicsItem(item);
+    return item;
+}
+
+BalloonItem* PhysicsWorld::createBalloon(double x, double y, double theta, double r)
+{
+    auto* item = new BalloonItem(x, y, theta, r);
+    addPhysicsItem(item);
+    return item;
+}
+
+DistanceJoint* PhysicsWorld::createDistanceJoint(BodyItem* pItem1, BodyItem* pItem2, QPointF p1,
+                                                 QPointF p2)
+{
+    auto* joint = new DistanceJoint(pItem1, pItem2, QLineF(p1, p2));
+    addPhysicsItem(joint);
+    return joint;
+}
+
+RevoluteJoint* PhysicsWorld::createRevoluteJoint(BodyItem* pItem1, BodyItem* pItem2, QPointF p)
+{
+    auto* joint = new RevoluteJoint(pItem1, pItem2, p, Settings::instance()->revoluteJointRadius);
+    addPhysicsItem(joint);
+    return joint;
+}
+
+PrismaticJoint* PhysicsWorld::createPrismaticJoint(BodyItem* pItem1, BodyItem* pItem2,
+                                                   QLineF line1, QLineF line2)
+{
+    auto* joint = new PrismaticJoint(pItem1, pItem2, line1, line2);
+    addPhysicsItem(joint);
+    return joint;
+}
+
+PulleyJoint* PhysicsWorld::createPulleyJoint(BodyItem* pItem1, BodyItem* pItem2, QPolygonF polygon)
+{
+    auto* joint = new PulleyJoint(pItem1, pItem2, polygon);
+    addPhysicsItem(joint);
+    return joint;
+}
+
+void PhysicsWorld::createGround()
+{
+    createRectangle(0, -0.5, 0, 22, 1)->setBodyType(BodyItem::StaticBody);
+    createRectangle(-10.5, 8, 0, 1, 16)->setBodyType(BodyItem::StaticBody);
+    createRectangle(10.5, 8, 0, 1, 16)->setBodyType(BodyItem::StaticBody);
+}
+
+void PhysicsWorld::addPhysicsItem(PhysicsItem* item)
+{
+    if (!item || itemList.contains(item))
+        return;
+    itemList.append(item);
+    if (item->graphicsItem())
+        scene->addItem(item->graphicsItem());
+    if (Application* application = Application::instance()) {
+        if (application->scriptEngine)
+            application->scriptEngine->globalObject().setProperty(
+                item->name(), item->toScriptValue(), QScriptValue::KeepExistingFlags);
+    }
+}
+
+void PhysicsWorld::removePhysicsItem(PhysicsItem* item)
+{
+    if (!item || !itemList.contains(item))
+        return;
+    if (BodyItem* body = item->toBodyItem())
+        removeBody(body);
+    else if (JointItem* joint = item->toJointItem())
+        removeJoint(joint);
+    else
+        detachItem(item);
+}
+
+void PhysicsWorld::removeBody(BodyItem* pBodyItem)
+{
+    if (!pBodyItem || !itemList.contains(pBodyItem))
+        return;
+    // Joints first: each destroys its own b2Joint, which Box2D would otherwise free with
+    // the body behind the joint's back.
+    for (JointItem* joint : jointList(pBodyItem))
+        removeJoint(joint);
+    detachItem(pBodyItem);
+}
+
+void PhysicsWorld::removeJoint(JointItem* joint)
+{
+    if (!joint || !itemList.contains(joint))
+        return;
+    detachItem(joint);
+}
+
+void PhysicsWorld::removeAllDynamicBodies()
+{
+    for (BodyItem* body : bodyItems()) {
+        if (body->mass() != 0.0)
+            removeBody(body);
+    }
+}
+
+void PhysicsWorld::removeAllStaticBodies()
+{
+    for (BodyItem* body : bodyItems()) {
+        if (body->mass() == 0.0)
+            removeBody(body);
+    }
+}
+
+void PhysicsWorld::removeAllBodies()
+{
+    removeAllDynamicBodies();
+    removeAllStaticBodies();
+}
+
+void PhysicsWorld::detachItem(PhysicsItem* item)
+{
+    if (mouseJointPointer && item->toBodyItem()
+        && mouseJointPointer->GetBodyB() == item->toBodyItem()->body())
+        mouseJointPointer = nullptr; // Box2D destroys the joint with its body
+    if (item->graphicsItem())
+        scene->removeItem(item->graphicsItem());
+    itemList.removeAll(item);
+    if (Application* application = Application::instance()) {
+        if (application->scriptEngine)
+            application->scriptEngine->globalObject().setProperty(
+                item->name(), QScriptValue(), QScriptValue::KeepExistingFlags);
+    }
+    if (iterationDepth > 0) {
+        item->setActive(false);
+        removedItems.insert(item);
+    } else {
+        delete item;
+    }
+}
+
+bool PhysicsWorld::isRemoved(PhysicsItem* item) const
+{
+    return !removedItems.isEmpty() && removedItems.contains(item);
+}
+
+void PhysicsWorld::deleteRemovedItems()
+{
+    const QSet<PhysicsItem*> doomed = removedItems;
+    removedItems.clear();
+    qDeleteAll(doomed);
+}

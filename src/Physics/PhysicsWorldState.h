@@ -1,0 +1,12 @@
+#pragma once
+
+#include "General/XPropertyList.h"
+
+#include <QList>
+
+// Snapshot of a scene: the world's properties and those of each item active at the time.
+struct PhysicsWorldState
+{
+    XPropertyList worldProperties;
+    QList<XPropertyList> itemProperties;
+};

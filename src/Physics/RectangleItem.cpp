@@ -1,0 +1,120 @@
+#include "Physics/RectangleItem.h"
+
+#include "General/XPolygonF.h"
+
+#include <QFont>
+#include <QGraphicsRectItem>
+#include <QGraphicsTextItem>
+
+namespace {
+// Text is laid out at this many pixels per metre.
+const double textPixelsPerMetre = 50.0;
+} // namespace
+
+RectangleItem::RectangleItem(double x, double y, double theta, double w, double h)
+    : BodyItem(x, y, theta)
+    , rectangleWidth(w)
+    , rectangleHeight(h)
+{
+    auto* shape = new b2PolygonShape();
+    shape->SetAsBox(float(w * 0.5), float(h * 0.5));
+    createFixture(shape);
+    rectItem = new QGraphicsRectItem(-w / 2, -h / 2, w, h);
+    pGraphicsItem = rectItem;
+    initialiseGraphics(x, y, theta);
+
+    textItem = new QGraphicsTextItem(rectItem);
+    textItem->setDefaultTextColor(Qt::black);
+    textItem->setTextWidth(w * textPixelsPerMetre);
+    textItem->setPos(-w / 2, h / 2);
+    textItem->setTransform(QTransform::fromScale(1.0 / textPixelsPerMetre, -1.0 / textPixelsPerMetre),
+                           true);
+    textItem->setVisible(false);
+}
+
+QString RectangleItem::text() const
+{
+    return textItem->toPlainText();
+}
+
+QColor RectangleItem::textColor() const
+{
+    return textItem->defaultTextColor();
+}
+
+int RectangleItem::textSize() const
+{
+    return textItem->font().pointSize();
+}
+
+void RectangleItem::setText(QString text)
+{
+    textItem->setPlainText(text);
+    textItem->setVisible(!text.isEmpty());
+}
+
+void RectangleItem::setTextColor(QColor color)
+{
+    textItem->setDefaultTextColor(color);
+}
+
+void RectangleItem::setTextSize(int size)
+{
+    QFont font = textItem->font();
+    font.setPointSize(size);
+    textItem->setFont(font);
+}
+
+void RectangleItem::setWidth(double w)
+{
+    if (!(w > 0.0) || w == rectangleWidth)
+        return;
+    rectangleWidth = w;
+    resize();
+    textItem->setTextWidth(w * textPixelsPerMetre);
+}
+
+void RectangleItem::setHeight(double h)
+{
+    if (!(h > 0.0) || h == rectangleHeight)
+        return;
+    rectangleHeight = h;
+    resize();
+}
+
+void RectangleItem::resize()
+{
+    const double w = rectangleWidth;
+    const double h = rectangleHeight;
+    rectItem->setRect(-w / 2, -h / 2, w, h);
+    // The definition's shape was made here, so it may be changed in place.
+    static_cast<b2PolygonShape*>(const_cast<b2Shape*>(fixtureDefinitions.first()->shape))
+        ->SetAsBox(float(w * 0.5), float(h * 0.5));
+    recreateFixtures();
+    textItem->setPos(-w / 2, h / 2);
+}
+
+void RectangleItem::scale(double factor)
+{
+    const double w = rectangleWidth * factor;
+    const double h = rectangleHeight * factor;
+    if (w < 0.1 || h < 0.1)
+        return;
+    setWidth(w);
+    setHeight(h);
+}
+
+QPolygonF RectangleItem::snapPoints() const
+{
+    // Pulled in a little, so that a point snapped to lies inside the body.
+    const double a = rectangleWidth / 2 - 0.005;
+    const double b = rectangleHeight / 2 - 0.005;
+    return QPolygonF() << QPointF(0, 0) << QPointF(-a, -b) << QPointF(-a, b) << QPointF(a, -b)
+                       << QPointF(a, b) << QPointF(-a, 0) << QPointF(a, 0) << QPointF(0, -b)
+                       << QPointF(0, b);
+}
+
+QPolygonF RectangleItem::worldPolygon() const
+{
+    return XPolygonF(itemTransform().map(QPolygonF(rectItem->rect())));
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "Tools/Action.h"
+
+#include <QBrush>
+#include <QPixmap>
+#include <QPointF>
+
+class ActionContextWidget;
+class GraphicsView;
+class QKeyEvent;
+class QMouseEvent;
+class QWheelEvent;
+
+// Base of the tools. Exactly one tool is current; the view hands it every mouse, wheel and
+// key event of its viewport, and the tool turns a finished gesture into commands on the undo
+// stack. A tool is a checkable action, so choosing it and running it are the same object.
+class GraphicsViewAction : public Action
+{
+    Q_OBJECT
+
+public:
+    GraphicsViewAction(const QIcon& icon, const QString& text, QObject* parent,
+                       GraphicsView* graphicsView);
+
+    // The scene point of a viewport position, snapped to the grid or to the nearest snap
+    // point of an item as the settings say; shows the snap marker where it snapped.
+    QPointF snappedScenePos(const QPoint& pos) const;
+
+    ActionContextWidget* contextWidget = nullptr;
+
+public slots:
+    virtual void cancel();
+    virtual void reset();
+    virtual void mousePressEvent(QMouseEvent* event);
+    virtual void mouseMoveEvent(QMouseEvent* event);
+    virtual void mouseReleaseEvent(QMouseEvent* event);
+    virtual void wheelEvent(QWheelEvent* event);
+    virtual void keyPressEvent(QKeyEvent* event);
+
+protected slots:
+    void onTriggered() override;
+
+protected:
+    // The cursor of the tool: the pointer with the tool's icon beside it.
+    virtual QPixmap cursorPixmap();
+    // A fresh brush for the next body: a random colour, the wall texture for static bodies.
+    void pickBrush();
+
+    GraphicsView* graphicsView;
+    QBrush brush;
+};

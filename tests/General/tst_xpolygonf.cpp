@@ -1,0 +1,239 @@
+#include "General/XPolygonF.h"
+#include "General/support/MessageRecorder.h"
+#include "General/support/PolygonChecks.h"
+
+#include <QtTest>
+
+#include <cmath>
+
+using PolygonChecks::centroid;
+using PolygonChecks::makePolygon;
+using PolygonChecks::signedArea;
+using PolygonChecks::totalArea;
+using PolygonChecks::triangleFault;
+
+namespace {
+
+const QPolygonF unitSquare
+    = makePolygon({QPointF(0, 0), QPointF(1, 0), QPointF(1, 1), QPointF(0, 1)});
+
+// A star of the given number of spikes around the origin, counter-clockwise.
+QPolygonF star(int spikes, double inner, double outer)
+{
+    QPolygonF polygon;
+    for (int i = 0; i < 2 * spikes; ++i) {
+        const double angle = M_PI * i / spikes;
+        const double radius = i % 2 ? inner : outer;
+        polygon << QPointF(radius * std::cos(angle), radius * std::sin(angle));
+    }
+    return polygon;
+}
+
+QPolygonF reversed(QPolygonF polygon)
+{
+    std::reverse(polygon.begin(), polygon.end());
+    return polygon;
+}
+
+} // namespace
+
+class tst_XPolygonF : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void normalForm_data();
+    void normalForm();
+    void tooFewVertices_data();
+    void tooFewVertices();
+    void triangulate_data();
+    void triangulate();
+    void skipsSlivers_data();
+    void skipsSlivers();
+};
+
+void tst_XPolygonF::normalForm_data()
+{
+    QTest::addColumn<QPolygonF>("input");
+    QTest::addColumn<QPolygonF>("expected");
+    QTest::addColumn<QStringList>("debugMessages");
+
+    const QPointF a(0, 0), b(1, 0), c(1, 1), d(0, 1);
+    QTest::newRow("counter-clockwise square unchanged")
+        << makePolygon({a, b, c, d}) << makePolygon({a, b, c, d}) << QStringList();
+    QTest::newRow("clockwise square reversed")
+        << makePolygon({a, d, c, b}) << makePolygon({b, c, d, a}) << QStringList();
+    QTest::newRow("closing duplicate removed")
+        << makePolygon({a, b, c, d, a}) << makePolygon({a, b, c, d}) << QStringList();
+    QTest::newRow("closing duplicate within tolerance removed")
+        << makePolygon({a, b, c, d, QPointF(1e-13, -1e-13)}) << makePolygon({a, b, c, d})
+        << QStringList();
+    const QPointF nearA(0, 2e-12);
+    QTest::newRow("closing vertex beyond tolerance kept")
+        << makePolygon({a, b, c, d, nearA}) << makePolygon({a, b, c, d, nearA}) << QStringList();
+    QTest::newRow("clockwise closed outline opened, then reversed")
+        << makePolygon({a, d, c, b, a}) << makePolygon({b, c, d, a}) << QStringList();
+    QTest::newRow("short edge removed")
+        << makePolygon({a, b, QPointF(1, 1e-8), c, d}) << makePolygon({a, b, c, d})
+        << QStringList {QStringLiteral("Removing edge with length = 1e-08")};
+    QTest::newRow("edge just above the limit kept")
+        << makePolygon({a, b, QPointF(1, 1.2e-7), c, d})
+        << makePolygon({a, b, QPointF(1, 1.2e-7), c, d}) << QStringList();
+    // After the first removal the scan goes on at index 1, so the zero-length edge left at
+    // index 0 stays.
+    QTest::newRow("three coincident vertices")
+        << makePolygon({a, a, a, b, c, d}) << makePolygon({a, a, b, c, d})
+        << QStringList {QStringLiteral("Removing edge with length = 0")};
+    QTest::newRow("coincident vertices later in the outline")
+        << makePolygon({a, b, b, b, c, d}) << makePolygon({a, b, c, d})
+        << QStringList {QStringLiteral("Removing edge with length = 0"),
+                        QStringLiteral("Removing edge with length = 0")};
+    // The orientation is read at the first vertex on the top or left side; there the
+    // neighbours are collinear, which counts as counter-clockwise.
+    const QPolygonF clockwiseFromEdgeMiddle = makePolygon({QPointF(0, 0.5), d, c, b, a});
+    QTest::newRow("collinear neighbours at the extreme vertex")
+        << clockwiseFromEdgeMiddle << clockwiseFromEdgeMiddle << QStringList();
+}
+
+void tst_XPolygonF::normalForm()
+{
+    QFETCH(QPolygonF, input);
+    QFETCH(QPolygonF, expected);
+    QFETCH(QStringList, debugMessages);
+
+    MessageRecorder recorder;
+    const XPolygonF polygon(input);
+    QCOMPARE(QPolygonF(polygon), expected);
+    QCOMPARE(recorder.messages(QtDebugMsg), debugMessages);
+}
+
+void tst_XPolygonF::tooFewVertices_data()
+{
+    QTest::addColumn<QPolygonF>("input");
+    QTest::addColumn<QPolygonF>("expected");
+    QTest::addColumn<QStringList>("debugMessages");
+
+    const QString tooFew = QStringLiteral("XPolygonF with less than 3 vertices.");
+    QTest::newRow("empty") << QPolygonF() << QPolygonF() << QStringList {tooFew};
+    QTest::newRow("two vertices") << makePolygon({QPointF(0, 0), QPointF(1, 0)})
+                                  << makePolygon({QPointF(0, 0), QPointF(1, 0)})
+                                  << QStringList {tooFew};
+    // The scan stops once the vertex at index 1 is the last one.
+    QTest::newRow("three coincident vertices")
+        << makePolygon({QPointF(2, 3), QPointF(2, 3), QPointF(2, 3)})
+        << makePolygon({QPointF(2, 3), QPointF(2, 3)})
+        << QStringList {QStringLiteral("Removing edge with length = 0"), tooFew};
+    // The count is checked before the closing vertex goes, so there is no message.
+    QTest::newRow("closed two-vertex outline")
+        << makePolygon({QPointF(0, 0), QPointF(1, 0), QPointF(0, 1e-13)})
+        << makePolygon({QPointF(0, 0), QPointF(1, 0)}) << QStringList();
+}
+
+// Too few vertices are no failure: the object stays as it is and has no triangles.
+void tst_XPolygonF::tooFewVertices()
+{
+    QFETCH(QPolygonF, input);
+    QFETCH(QPolygonF, expected);
+    QFETCH(QStringList, debugMessages);
+
+    MessageRecorder recorder;
+    const XPolygonF polygon(input);
+    QCOMPARE(QPolygonF(polygon), expected);
+    QCOMPARE(recorder.messages(QtDebugMsg), debugMessages);
+    QVERIFY(polygon.triangulate().isEmpty());
+    QCOMPARE(recorder.messages(QtWarningMsg), QStringList());
+}
+
+void tst_XPolygonF::triangulate_data()
+{
+    QTest::addColumn<QPolygonF>("outline");
+    QTest::addColumn<int>("triangleCount");
+    QTest::addColumn<double>("area");
+
+    QTest::newRow("triangle") << makePolygon({QPointF(0, 0), QPointF(2, 0), QPointF(0, 1)}) << 1
+                              << 1.0;
+    QTest::newRow("square") << unitSquare << 2 << 1.0;
+    QTest::newRow("clockwise square") << reversed(unitSquare) << 2 << 1.0;
+    QTest::newRow("closed square")
+        << makePolygon({QPointF(0, 0), QPointF(1, 0), QPointF(1, 1), QPointF(0, 1), QPointF(0, 0)})
+        << 2 << 1.0;
+    QTest::newRow("L shape") << makePolygon(
+        {QPointF(0, 0), QPointF(2, 0), QPointF(2, 1), QPointF(1, 1), QPointF(1, 2), QPointF(0, 2)})
+                             << 4 << 3.0;
+    // Twenty vertices alternately at radius 2 and 1: twenty triangles between the centre and
+    // neighbouring vertices make up the area.
+    QTest::newRow("star") << star(10, 1.0, 2.0) << 18 << 20 * 0.5 * 2.0 * 1.0 * std::sin(M_PI / 10);
+    // A square with a slit to a square hole, which the outline runs around clockwise.
+    QTest::newRow("keyhole") << makePolygon(
+        {QPointF(0, 0), QPointF(4, 0), QPointF(4, 4), QPointF(0, 4), QPointF(0, 2), QPointF(1, 2),
+         QPointF(1, 3), QPointF(3, 3), QPointF(3, 1), QPointF(1, 1), QPointF(1, 2), QPointF(0, 2)})
+                             << -1 << 12.0;
+    // The crossing splits it into two lobes of area 1; the second lobe is handed over as a
+    // hole, and as it lies outside the first it takes nothing away.
+    QTest::newRow("figure of eight")
+        << makePolygon({QPointF(0, 0), QPointF(2, 2), QPointF(2, 0), QPointF(0, 2)}) << 1 << 1.0;
+    QTest::newRow("collinear vertices")
+        << makePolygon({QPointF(0, 0), QPointF(1, 0), QPointF(2, 0)}) << 0 << 0.0;
+    QTest::newRow("beyond single precision")
+        << makePolygon({QPointF(0, 0), QPointF(1e39, 0), QPointF(0, 1)}) << 0 << 0.0;
+    QTest::newRow("out and back") << makePolygon(
+        {QPointF(0, 0), QPointF(1, 1), QPointF(2, 2), QPointF(1, 1)})
+                                  << 0 << 0.0;
+}
+
+// Besides the given figures, every triangle must be counter-clockwise and lie in the outline
+// by the even-odd rule, so none covers a hole or the outside.
+void tst_XPolygonF::triangulate()
+{
+    QFETCH(QPolygonF, outline);
+    QFETCH(int, triangleCount);
+    QFETCH(double, area);
+
+    MessageRecorder recorder;
+    const QList<XPolygonF> triangles = XPolygonF(outline).triangulate();
+    if (triangleCount >= 0)
+        QCOMPARE(triangles.size(), triangleCount);
+    QVERIFY(qAbs(totalArea(triangles) - area) < 1e-9);
+    const QString fault = triangleFault(triangles, outline.boundingRect());
+    QVERIFY2(fault.isEmpty(), qPrintable(fault));
+    for (const XPolygonF& triangle : triangles)
+        QVERIFY(outline.containsPoint(centroid(triangle), Qt::OddEvenFill));
+    QCOMPARE(recorder.messages(QtWarningMsg), QStringList());
+}
+
+void tst_XPolygonF::skipsSlivers_data()
+{
+    QTest::addColumn<QPolygonF>("outline");
+    QTest::addColumn<QStringList>("warnings");
+    QTest::addColumn<double>("area");
+
+    QTest::newRow("sliver of area 5e-8")
+        << makePolygon({QPointF(0, 0), QPointF(1, 0), QPointF(0, 1e-7)})
+        << QStringList {QStringLiteral("Skipped 1 triangles")} << 0.0;
+    QTest::newRow("thin triangle of area 1.5e-7")
+        << makePolygon({QPointF(0, 0), QPointF(1, 0), QPointF(0, 3e-7)}) << QStringList() << 1.5e-7;
+    // A spike with a base two ten-millionths wide on top of a unit square: the spike and the
+    // triangle of the square on the spike's base, of area 1e-7, are both too thin.
+    QTest::newRow("spike on a square")
+        << makePolygon({QPointF(0, 0), QPointF(1, 0), QPointF(1, 1), QPointF(0.5 + 2e-7, 1),
+                        QPointF(0.5, 1.5), QPointF(0.5, 1), QPointF(0, 1)})
+        << QStringList {QStringLiteral("Skipped 2 triangles")} << 1.0 - 1e-7;
+}
+
+// Skipped triangles are counted in one warning, and their area is missing from the rest.
+void tst_XPolygonF::skipsSlivers()
+{
+    QFETCH(QPolygonF, outline);
+    QFETCH(QStringList, warnings);
+    QFETCH(double, area);
+
+    MessageRecorder recorder;
+    const QList<XPolygonF> triangles = XPolygonF(outline).triangulate();
+    QCOMPARE(recorder.messages(QtWarningMsg), warnings);
+    QVERIFY(qAbs(totalArea(triangles) - area) < 1e-12);
+    const QString fault = triangleFault(triangles, outline.boundingRect());
+    QVERIFY2(fault.isEmpty(), qPrintable(fault));
+}
+
+QTEST_GUILESS_MAIN(tst_XPolygonF)
+#include "tst_xpolygonf.moc"
