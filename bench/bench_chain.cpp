@@ -3,13 +3,12 @@
 // times through PhysicsWorld::step() and again as the same scene in bare Box2D, built in the
 // same run. The ratio is what the items, their graphics and the springs' bookkeeping add.
 #include "Application/Settings.h"
+#include "BenchmarkApplication.h"
 #include "Physics/PhysicsWorld.h"
 #include "Physics/RectangleItem.h"
 #include "Physics/RevoluteJoint.h"
 #include "Physics/SpringForce.h"
 
-#include <QApplication>
-#include <QFile>
 #include <box2d/box2d.h>
 
 #include <chrono>
@@ -131,14 +130,10 @@ double box2DChain()
 
 int main(int argc, char* argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    QFile::remove(Settings::settingsFileName());
+    BenchmarkApplication application(argc, argv);
     const double program = programChain();
     const double box2D = box2DChain();
     std::printf("chain N=%d program_ms=%.1f box2d_ms=%.1f ratio=%.2f\n", linkCount, program, box2D,
                 program / box2D);
-    Settings::destroy();
-    QFile::remove(Settings::settingsFileName());
     return 0;
 }

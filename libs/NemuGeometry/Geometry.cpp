@@ -40,9 +40,8 @@ QString polygonToString(const QPolygonF& polygon)
 {
     QStringList points;
     points.reserve(polygon.size());
-    for (const QPointF& point : polygon) {
+    for (const QPointF& point : polygon)
         points << exactText(point.x()) + QLatin1Char(',') + exactText(point.y());
-    }
     return points.join(QLatin1Char(' '));
 }
 

@@ -23,8 +23,8 @@ QString readAll(const QString& fileName, const QString& encoding)
     return codec ? codec->toUnicode(data) : QString::fromUtf8(data);
 }
 
-// Saturation and value stay high so that a new body stands out from the white background
-// and from the black of static bodies.
+// Saturation and value stay high: a new body stands out from the background, and its colour
+// is never black, the colour of a textured static body's brush until it is given one of these.
 QColor randomColor()
 {
     QRandomGenerator* generator = QRandomGenerator::global();

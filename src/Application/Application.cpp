@@ -5,12 +5,12 @@
 #include "NemuToolbox/Toolbox.h"
 #include "Physics/BalloonItem.h"
 #include "Physics/DistanceJoint.h"
+#include "Physics/PhysicsItem.h"
+#include "Physics/PhysicsWorld.h"
 #include "Physics/PrismaticJoint.h"
 #include "Physics/PulleyJoint.h"
-#include "Physics/RevoluteJoint.h"
-#include "Physics/PhysicsItem.h"
 #include "Physics/RectangleItem.h"
-#include "Physics/PhysicsWorld.h"
+#include "Physics/RevoluteJoint.h"
 #include "View/GraphicsView.h"
 
 #include <QAction>
@@ -42,9 +42,9 @@ struct LanguageEntry
     const char* suffix;
 };
 const LanguageEntry languageTable[] = {
-    {QLocale::English, "en"}, {QLocale::Greek, "el"},      {QLocale::Russian, "ru"},
-    {QLocale::Japanese, "ja"}, {QLocale::German, "de"},    {QLocale::Spanish, "es"},
-    {QLocale::Indonesian, "id"}, {QLocale::French, "fr"},  {QLocale::Italian, "it"},
+    {QLocale::English, "en"},    {QLocale::Greek, "el"},  {QLocale::Russian, "ru"},
+    {QLocale::Japanese, "ja"},   {QLocale::German, "de"}, {QLocale::Spanish, "es"},
+    {QLocale::Indonesian, "id"}, {QLocale::French, "fr"}, {QLocale::Italian, "it"},
     {QLocale::Chinese, "zh"},
 };
 
@@ -69,8 +69,8 @@ Application::Application(int& argc, char** argv)
     setOrganizationName(QString::fromUtf8(QByteArray::fromBase64(organizationFirst)) + " "
                         + QString::fromUtf8(QByteArray::fromHex(organizationSecond)));
     setWindowIcon(QIcon(QStringLiteral(":/icons/brivane.png")));
-    setStyleSheet(
-        QStringLiteral("QDockWidget::title { text-align: left; background: #AAC; padding-left: 5px; }"));
+    setStyleSheet(QStringLiteral(
+        "QDockWidget::title { text-align: left; background: #AAC; padding-left: 5px; }"));
     // Beside the executable rather than the working directory, so that the script extensions
     // are found wherever the program is started from.
     addLibraryPath(applicationDirPath() + QStringLiteral("/lib/"));
@@ -152,7 +152,7 @@ void Application::postInitialise()
     newFile(Settings::instance()->createGroundOnStartup);
 }
 
-void Application::onAboutToQuit() {}
+void Application::onAboutToQuit() { }
 
 void Application::setLanguage(QLocale::Language language)
 {
@@ -192,8 +192,8 @@ void Application::grabWidgetUnderCursor()
     QWidget* widget = widgetAt(QCursor::pos());
     if (!widget)
         return;
-    const QString title = widget->windowTitle().isEmpty() ? QStringLiteral("Widget")
-                                                          : widget->windowTitle();
+    const QString title
+        = widget->windowTitle().isEmpty() ? QStringLiteral("Widget") : widget->windowTitle();
     widget->grab(QRect(0, 0, -1, -1)).save(title + QStringLiteral(".png"), "PNG", 75);
 }
 
@@ -212,21 +212,18 @@ void Application::newFile(bool createGround)
 }
 
 namespace {
-template<typename T>
-QScriptValue itemToScriptValue(QScriptEngine* engine, T* const& item)
+template<typename T> QScriptValue itemToScriptValue(QScriptEngine* engine, T* const& item)
 {
     return engine->newQObject(item, QScriptEngine::QtOwnership);
 }
 
 // A wrapper of another class arrives as null.
-template<typename T>
-void itemFromScriptValue(const QScriptValue& value, T*& item)
+template<typename T> void itemFromScriptValue(const QScriptValue& value, T*& item)
 {
     item = qobject_cast<T*>(value.toQObject());
 }
 
-template<typename T>
-void registerItemType(QScriptEngine* engine)
+template<typename T> void registerItemType(QScriptEngine* engine)
 {
     qScriptRegisterMetaType<T*>(engine, itemToScriptValue<T>, itemFromScriptValue<T>);
 }
@@ -366,7 +363,8 @@ bool Application::canCreateOpenGLContext()
 
 QStringList Application::supportedOpenGLVersions()
 {
-    static const struct {
+    static const struct
+    {
         QGLFormat::OpenGLVersionFlag flag;
         const char* text;
     } versions[] = {

@@ -32,7 +32,8 @@ public:
 
     // Sends a console message through the running Application's debug(); without one the
     // message goes to the framework log, where tests can read it.
-    static void report(const QString& text, Brivane::ConsoleMessageType messageType = Brivane::Info);
+    static void report(const QString& text,
+                       Brivane::ConsoleMessageType messageType = Brivane::Info);
 
     // The temporary directory of the program: the system's temporary path and the
     // application name.

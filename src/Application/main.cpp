@@ -18,11 +18,11 @@ QPixmap splashPixmap()
     painter.setPen(Qt::black);
     painter.drawRect(0, 0, pixmap.width() - 1, pixmap.height() - 1);
     painter.drawPixmap((pixmap.width() - logo.width()) / 2, 10, logo);
-    const QRect textRect(0, logo.height() + 10, pixmap.width(), pixmap.height() - logo.height() - 10);
+    const QRect textRect(0, logo.height() + 10, pixmap.width(),
+                         pixmap.height() - logo.height() - 10);
     painter.drawText(textRect, Qt::AlignCenter,
                      QObject::tr("Version: %1").arg(QCoreApplication::applicationVersion())
-                         + QStringLiteral("\n\n")
-                         + QObject::tr("Made by the Brivane Project")
+                         + QStringLiteral("\n\n") + QObject::tr("Made by the Brivane Project")
                          + QLatin1Char('\n') + WebsiteUrl.host());
     return pixmap;
 }

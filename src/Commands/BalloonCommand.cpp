@@ -4,7 +4,8 @@
 
 #include <QObject>
 
-BalloonCommand::BalloonCommand(double x, double y, double theta, double r, const QBrush& brush, QUndoCommand* parent)
+BalloonCommand::BalloonCommand(double x, double y, double theta, double r, const QBrush& brush,
+                               QUndoCommand* parent)
     : BodyCommand(new BalloonItem(x, y, theta, r), brush, QObject::tr("Balloon"), parent)
 {
 }

@@ -6,6 +6,6 @@
 class BalloonCommand : public BodyCommand
 {
 public:
-    BalloonCommand(double x, double y, double theta, double r, const QBrush& brush, QUndoCommand* parent = nullptr);
-
+    BalloonCommand(double x, double y, double theta, double r, const QBrush& brush,
+                   QUndoCommand* parent = nullptr);
 };

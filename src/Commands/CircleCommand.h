@@ -6,6 +6,6 @@
 class CircleCommand : public BodyCommand
 {
 public:
-    CircleCommand(double x, double y, double theta, double r, const QBrush& brush, QUndoCommand* parent = nullptr);
-
+    CircleCommand(double x, double y, double theta, double r, const QBrush& brush,
+                  QUndoCommand* parent = nullptr);
 };

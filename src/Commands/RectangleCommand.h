@@ -6,6 +6,6 @@
 class RectangleCommand : public BodyCommand
 {
 public:
-    RectangleCommand(double x, double y, double theta, double w, double h, const QBrush& brush, QUndoCommand* parent = nullptr);
-
+    RectangleCommand(double x, double y, double theta, double w, double h, const QBrush& brush,
+                     QUndoCommand* parent = nullptr);
 };

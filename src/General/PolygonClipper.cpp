@@ -95,8 +95,11 @@ QPolygonF PolygonClipper::toFloatPolygon(const QPolygon& polygon) const
 // holes a union of two jagged outlines can have.
 QPolygonF PolygonClipper::fromOuterNode(const ClipperLib::PolyNode& outer) const
 {
+    const QPolygonF outline = toFloatPolygon(toQPolygon(outer.Contour));
+    if (outer.Childs.empty())
+        return outline;
     QPainterPath path;
-    path.addPolygon(toFloatPolygon(toQPolygon(outer.Contour)));
+    path.addPolygon(outline);
     for (const ClipperLib::PolyNode* hole : outer.Childs)
         path.addPolygon(toFloatPolygon(toQPolygon(hole->Contour)));
     return path.toFillPolygon();

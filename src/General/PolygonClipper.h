@@ -8,9 +8,9 @@
 
 // Boolean operations (union, difference, intersection) on two outlines, through the integer
 // engine of Clipper. Coordinates are scaled to millionths of a world unit and pass through
-// 32-bit QPolygon, which limits them to about plus or minus 2147 units. Holes of a result are
-// cut into their outline, so every piece is one QPolygonF. Made on the stack for one
-// operation; it owns its engine.
+// 32-bit QPolygon, which limits them to about plus or minus 2147 units; larger ones are bounded
+// to that. Holes of a result are cut into their outline, so every piece is one QPolygonF. Made
+// on the stack for one operation; it owns its engine.
 class PolygonClipper
 {
 public:

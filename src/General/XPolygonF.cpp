@@ -9,14 +9,13 @@
 #include <QtDebug>
 
 #include <CGAL/Constrained_Delaunay_triangulation_2.h>
-#include <CGAL/Constrained_triangulation_plus_2.h>
 #include <CGAL/Exact_predicates_inexact_constructions_kernel.h>
 #include <CGAL/Polygon_2_algorithms.h>
 #include <CGAL/Triangulation_face_base_with_info_2.h>
 
 #include <algorithm>
 #include <limits>
-#include <map>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -32,19 +31,19 @@ constexpr float minimumTriangleArea = std::numeric_limits<float>::epsilon();
 
 using Kernel = CGAL::Exact_predicates_inexact_constructions_kernel;
 using Point = Kernel::Point_2;
-// The face information is the index of the region the face lies in: a region is a maximal set
-// of faces connected without crossing a constraint.
 using FaceBase = CGAL::Constrained_triangulation_face_base_2<
     Kernel, CGAL::Triangulation_face_base_with_info_2<int, Kernel>>;
 using DataStructure
     = CGAL::Triangulation_data_structure_2<CGAL::Triangulation_vertex_base_2<Kernel>, FaceBase>;
 // Exact_predicates_tag lets rings touch and cross, which rounding in the simplification can
-// produce. The "plus" hierarchy remembers which ring each piece of a split constraint came from.
-using Triangulation = CGAL::Constrained_triangulation_plus_2<
-    CGAL::Constrained_Delaunay_triangulation_2<Kernel, DataStructure, CGAL::Exact_predicates_tag>>;
-using RingSet = std::vector<int>;
+// produce.
+using Triangulation
+    = CGAL::Constrained_Delaunay_triangulation_2<Kernel, DataStructure, CGAL::Exact_predicates_tag>;
 
+// The face information: which side of the outline a face lies on, once known.
 constexpr int unvisited = -1;
+constexpr int outside = 0;
+constexpr int inside = 1;
 
 // Vertices beyond single precision's range can never become physics shapes, and far larger
 // ones make QPainterPath::simplified fail outright.
@@ -65,9 +64,10 @@ std::vector<Point> toPoints(const QPolygonF& polygon)
     return points;
 }
 
-// The outline first, then the holes. Simplification resolves self-intersections and takes a
-// cut-in hole apart into the boundary and the hole. It takes most of the time for a large
-// outline, and a simple outline is its own one ring, so that one is passed through.
+// The rings that bound the outline's inside by the even-odd rule: its boundary, its holes and
+// whatever lies in them. Simplification resolves self-intersections and takes a cut-in hole
+// apart into the boundary and the hole. It takes most of the time for a large outline, and a
+// simple outline is its own one ring, so that one is passed through.
 QVector<XPolygonF> ringsOf(const XPolygonF& outline)
 {
     const std::vector<Point> points = toPoints(outline);
@@ -80,22 +80,19 @@ QVector<XPolygonF> ringsOf(const XPolygonF& outline)
     QVector<XPolygonF> rings;
     for (const QPolygonF& subpath : path.simplified().toSubpathPolygons(QTransform())) {
         const XPolygonF ring(subpath);
-        // Without its outline there is nothing to cut; a hole that degenerates is left out.
-        if (ring.size() < 3 && rings.isEmpty())
-            return {};
         if (ring.size() >= 3)
             rings.append(ring);
     }
     return rings;
 }
 
-// Gives all faces reachable from start without crossing a constraint the region index, and
-// collects the constrained edges through which further regions are reached.
-void floodRegion(Triangulation::Face_handle start, int region,
+// Marks start and every face reachable from it without crossing a constraint as lying on the
+// given side, and collects the constrained edges behind which further faces wait.
+void floodRegion(Triangulation::Face_handle start, int side,
                  std::vector<Triangulation::Edge>& border)
 {
     std::vector<Triangulation::Face_handle> pending {start};
-    start->info() = region;
+    start->info() = side;
     while (!pending.empty()) {
         const Triangulation::Face_handle face = pending.back();
         pending.pop_back();
@@ -106,62 +103,49 @@ void floodRegion(Triangulation::Face_handle start, int region,
             if (face->is_constrained(i)) {
                 border.emplace_back(face, i);
             } else {
-                neighbour->info() = region;
+                neighbour->info() = side;
                 pending.push_back(neighbour);
             }
         }
     }
 }
 
-// Crossing a ring's edge moves in or out of that ring: even-odd per ring.
-void toggle(RingSet& rings, int ring)
-{
-    const auto position = std::lower_bound(rings.begin(), rings.end(), ring);
-    if (position != rings.end() && *position == ring)
-        rings.erase(position);
-    else
-        rings.insert(position, ring);
-}
-
 // The counter-clockwise triangles of the constrained Delaunay triangulation of the rings that
-// lie inside the first ring and outside every further one, in the triangulation's face order.
+// lie inside them by the even-odd rule, in the triangulation's face order.
 QVector<QPolygonF> trianglesInside(const QVector<XPolygonF>& rings)
 {
-    Triangulation triangulation;
-    std::map<Triangulation::Constraint_id, int> ringOfConstraint;
-    for (int ring = 0; ring < rings.size(); ++ring) {
-        const std::vector<Point> points = toPoints(rings.at(ring));
-        ringOfConstraint[triangulation.insert_constraint(points.begin(), points.end(), true)]
-            = ring;
+    // All vertices go in at once, which lets the triangulation sort them in space first.
+    std::vector<Point> points;
+    std::vector<std::pair<std::size_t, std::size_t>> edges;
+    for (const XPolygonF& ring : rings) {
+        const std::size_t first = points.size();
+        for (const QPointF& vertex : ring) {
+            edges.emplace_back(points.size(), points.size() + 1);
+            points.emplace_back(vertex.x(), vertex.y());
+        }
+        edges.back().second = first;
     }
+    Triangulation triangulation;
+    triangulation.insert_constraints(points.cbegin(), points.cend(), edges.cbegin(), edges.cend());
     if (triangulation.dimension() < 2)
         return {};
 
     for (auto face = triangulation.all_faces_begin(); face != triangulation.all_faces_end(); ++face)
         face->info() = unvisited;
-    // The rings each region lies inside, found by walking out from the unbounded region.
-    std::vector<RingSet> insideRings {RingSet()};
+    // Walking out from the unbounded region, each ring edge crossed changes sides.
     std::vector<Triangulation::Edge> border;
-    floodRegion(triangulation.infinite_face(), 0, border);
+    floodRegion(triangulation.infinite_face(), outside, border);
     while (!border.empty()) {
         const auto [face, index] = border.back();
         border.pop_back();
         const Triangulation::Face_handle neighbour = face->neighbor(index);
-        if (neighbour->info() != unvisited)
-            continue;
-        RingSet inside = insideRings[size_t(face->info())];
-        const auto from = face->vertex(Triangulation::cw(index));
-        const auto to = face->vertex(Triangulation::ccw(index));
-        for (auto context : triangulation.contexts(from, to))
-            toggle(inside, ringOfConstraint.at(context.id()));
-        insideRings.push_back(inside);
-        floodRegion(neighbour, int(insideRings.size() - 1), border);
+        if (neighbour->info() == unvisited)
+            floodRegion(neighbour, face->info() == inside ? outside : inside, border);
     }
 
-    const RingSet domain {0};
     QVector<QPolygonF> triangles;
     for (const auto face : triangulation.finite_face_handles()) {
-        if (insideRings[size_t(face->info())] != domain)
+        if (face->info() != inside)
             continue;
         QPolygonF triangle;
         for (int i = 0; i < 3; ++i)
@@ -200,11 +184,12 @@ QList<XPolygonF> XPolygonF::triangulate() const
     QList<XPolygonF> result;
     int skipped = 0;
     for (const QPolygonF& triangle : trianglesInside(rings)) {
+        // Each triangle comes counter-clockwise, and normalising leaves a sound one as it is.
+        // It drops a vertex at an edge too short to keep, and it turns round a triangle so flat
+        // that rounding hides its orientation: neither is a shape.
         if (isValidTriangle(triangle)) {
-            // A triangle can pass the area test with one edge too short to keep; normalising
-            // it then leaves two vertices, which are no shape either.
             const XPolygonF normal(triangle);
-            if (normal.size() == 3) {
+            if (normal == triangle) {
                 result.append(normal);
                 continue;
             }

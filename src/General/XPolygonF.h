@@ -14,9 +14,10 @@ public:
     // Copies and normalises; an outline of fewer than three vertices is kept as it is.
     XPolygonF(const QPolygonF& polygon);
 
-    // The counter-clockwise triangles that cover the outline's inside. Self-intersections are
-    // resolved first; the first resulting ring is the outline and every further ring a hole.
-    // Triangles too thin for single precision are left out and reported as a warning.
+    // The counter-clockwise triangles that cover the outline's inside by the even-odd rule, as
+    // the outline is filled when drawn: self-intersections are resolved, and a hole cut into
+    // the outline stays free. Triangles too thin for single precision are left out and
+    // reported as a warning.
     QList<XPolygonF> triangulate() const;
 
 private:

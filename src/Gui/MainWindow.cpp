@@ -5,9 +5,18 @@
 #include "Physics/PhysicsItem.h"
 #include "Physics/PhysicsWorld.h"
 #include "Tools/ActionContextToolBar.h"
+#include "Tools/BalloonAction.h"
+#include "Tools/CircleAction.h"
+#include "Tools/DistanceJointAction.h"
 #include "Tools/GraphicsViewAction.h"
 #include "Tools/PlayPauseAction.h"
+#include "Tools/PolygonAction.h"
+#include "Tools/PrismaticJointAction.h"
+#include "Tools/PulleyJointAction.h"
+#include "Tools/RectangleAction.h"
+#include "Tools/RevoluteJointAction.h"
 #include "Tools/SelectAction.h"
+#include "Tools/SpringForceAction.h"
 #include "View/GraphicsScene.h"
 #include "View/GraphicsView.h"
 #include "View/StatusBar.h"
@@ -170,13 +179,13 @@ MainWindow::actionRows()
         {Id::Plot, QT_TR_NOOP("Create Plot"), QT_TR_NOOP("Creates a plot for a given item"),
          "graph", none, 0, &MainWindow::makeUnavailableTool, nullptr},
         {Id::Rectangle, QT_TR_NOOP("Create Rectangle"), QT_TR_NOOP("Creates a rectangle"),
-         "rectangle", none, 0, &MainWindow::makeUnavailableTool, nullptr},
+         "rectangle", none, 0, &MainWindow::makeTool<RectangleAction>, nullptr},
         {Id::Circle, QT_TR_NOOP("Create Circle"), QT_TR_NOOP("Creates a circle"), "circle", none, 0,
-         &MainWindow::makeUnavailableTool, nullptr},
+         &MainWindow::makeTool<CircleAction>, nullptr},
         {Id::Polygon, QT_TR_NOOP("Create Polygon"), QT_TR_NOOP("Creates a polygon"), "polygon",
-         none, 0, &MainWindow::makeUnavailableTool, nullptr},
+         none, 0, &MainWindow::makeTool<PolygonAction>, nullptr},
         {Id::Balloon, QT_TR_NOOP("Create Balloon"), QT_TR_NOOP("Creates a balloon"), "balloon",
-         none, 0, &MainWindow::makeUnavailableTool, nullptr},
+         none, 0, &MainWindow::makeTool<BalloonAction>, nullptr},
         {Id::Brush, QT_TR_NOOP("Create freehand shape"),
          QT_TR_NOOP("Freehand drawing of random shapes"), "brush", none, 0,
          &MainWindow::makeUnavailableTool, nullptr},
@@ -193,19 +202,19 @@ MainWindow::actionRows()
          &MainWindow::makeUnavailableTool, nullptr},
         {Id::DistanceJoint, QT_TR_NOOP("Create Distance Joint"),
          QT_TR_NOOP("Creates a distance joint between two items (or an item and the background)"),
-         "D", none, 0, &MainWindow::makeUnavailableTool, nullptr},
+         "D", none, 0, &MainWindow::makeTool<DistanceJointAction>, nullptr},
         {Id::RevoluteJoint, QT_TR_NOOP("Create Revolute Joint"),
          QT_TR_NOOP("Creates a revolute joint between two items (or an item and the background)"),
-         "R", none, 0, &MainWindow::makeUnavailableTool, nullptr},
+         "R", none, 0, &MainWindow::makeTool<RevoluteJointAction>, nullptr},
         {Id::PrismaticJoint, QT_TR_NOOP("Create Prismatic Joint"),
          QT_TR_NOOP("Creates a prismatic joint between two items"), "Pr", none, 0,
-         &MainWindow::makeUnavailableTool, nullptr},
+         &MainWindow::makeTool<PrismaticJointAction>, nullptr},
         {Id::PulleyJoint, QT_TR_NOOP("Create Pulley Joint"),
          QT_TR_NOOP("Creates a pulley joint between two items"), "Pu", none, 0,
-         &MainWindow::makeUnavailableTool, nullptr},
+         &MainWindow::makeTool<PulleyJointAction>, nullptr},
         {Id::SpringForce, QT_TR_NOOP("Create Spring"),
          QT_TR_NOOP("Creates a spring between two items"), "spring", none, 0,
-         &MainWindow::makeUnavailableTool, nullptr},
+         &MainWindow::makeTool<SpringForceAction>, nullptr},
         {Id::Union, QT_TR_NOOP("Union"),
          QT_TR_NOOP("Creates an item from the union of two other items"), "union", none, 0,
          &MainWindow::makeUnavailableTool, nullptr},

@@ -82,7 +82,11 @@ void BodyItem::update()
     if (pBody->IsEnabled() && (pBody->IsAwake() || pBody->GetType() == b2_staticBody)) {
         const b2Vec2& position = pBody->GetPosition();
         pGraphicsItem->setPos(position.x, position.y);
-        pGraphicsItem->setRotation(pBody->GetAngle() * degreesPerRadian);
+        // QGraphicsItem announces a geometry change before it compares angles: compare here,
+        // since this runs for every awake body at every step.
+        const qreal rotation = pBody->GetAngle() * degreesPerRadian;
+        if (rotation != pGraphicsItem->rotation())
+            pGraphicsItem->setRotation(rotation);
     }
     runOnUpdate();
 }
@@ -371,8 +375,8 @@ void BodyItem::autoAdjustTexture()
     const QRectF bounds = pGraphicsItem->boundingRect();
     const double w = bounds.width();
     const double h = bounds.height();
-    newBrush.setTransform(QTransform(w / texture.width(), 0, 0, -(h / texture.height()), w * 0.5,
-                                     h * 0.5));
+    newBrush.setTransform(
+        QTransform(w / texture.width(), 0, 0, -(h / texture.height()), w * 0.5, h * 0.5));
     setBrush(newBrush);
 }
 

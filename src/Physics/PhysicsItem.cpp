@@ -126,8 +126,8 @@ void PhysicsItem::setOnKeyRelease(QString script)
     setEventScript(onKeyReleaseScript, "onKeyRelease", QStringLiteral("key"), script);
 }
 
-void PhysicsItem::setEventScript(QString& field, const char* functionName,
-                                 const QString& parameter, const QString& script)
+void PhysicsItem::setEventScript(QString& field, const char* functionName, const QString& parameter,
+                                 const QString& script)
 {
     if (script == field)
         return;
@@ -241,7 +241,8 @@ QScriptValue PhysicsItem::toScriptValue() const
 void PhysicsItem::setBrush(QBrush brush)
 {
     // Joints draw with line items, which have no brush: for them this does nothing.
-    if (auto* shape = dynamic_cast<QAbstractGraphicsShapeItem*>(pGraphicsItem))
+    auto* shape = dynamic_cast<QAbstractGraphicsShapeItem*>(pGraphicsItem);
+    if (shape && shape->brush() != brush)
         shape->setBrush(brush);
 }
 

@@ -31,14 +31,14 @@ PhysicsItemList::PhysicsItemList(GraphicsScene* scene)
 
 PhysicsItemList::PhysicsItemList(GraphicsScene* scene, const QPointF& point)
 {
-    appendPhysicsItems(*this, scene->items(point, Qt::IntersectsItemShape, Qt::DescendingOrder,
-                                           QTransform()));
+    appendPhysicsItems(
+        *this, scene->items(point, Qt::IntersectsItemShape, Qt::DescendingOrder, QTransform()));
 }
 
 PhysicsItemList::PhysicsItemList(GraphicsScene* scene, const QRectF& rect)
 {
-    appendPhysicsItems(*this, scene->items(rect, Qt::IntersectsItemShape, Qt::DescendingOrder,
-                                           QTransform()));
+    appendPhysicsItems(
+        *this, scene->items(rect, Qt::IntersectsItemShape, Qt::DescendingOrder, QTransform()));
 }
 
 PhysicsItem* PhysicsItemList::physicsItemFromName(const QString& name) const

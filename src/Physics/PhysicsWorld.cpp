@@ -6,12 +6,12 @@
 #include "Physics/BalloonItem.h"
 #include "Physics/ContactListener.h"
 #include "Physics/DistanceJoint.h"
+#include "Physics/JointSoftness.h"
+#include "Physics/PhysicsItem.h"
 #include "Physics/PrismaticJoint.h"
 #include "Physics/PulleyJoint.h"
-#include "Physics/RevoluteJoint.h"
-#include "Physics/PhysicsItem.h"
 #include "Physics/RectangleItem.h"
-#include "Physics/JointSoftness.h"
+#include "Physics/RevoluteJoint.h"
 #include "View/GraphicsScene.h"
 #include "View/GraphicsView.h"
 
@@ -497,8 +497,8 @@ RevoluteJoint* PhysicsWorld::createRevoluteJoint(BodyItem* pItem1, BodyItem* pIt
     return joint;
 }
 
-PrismaticJoint* PhysicsWorld::createPrismaticJoint(BodyItem* pItem1, BodyItem* pItem2,
-                                                   QLineF line1, QLineF line2)
+PrismaticJoint* PhysicsWorld::createPrismaticJoint(BodyItem* pItem1, BodyItem* pItem2, QLineF line1,
+                                                   QLineF line2)
 {
     auto* joint = new PrismaticJoint(pItem1, pItem2, line1, line2);
     addPhysicsItem(joint);
@@ -595,8 +595,8 @@ void PhysicsWorld::detachItem(PhysicsItem* item)
     itemList.removeAll(item);
     if (Application* application = Application::instance()) {
         if (application->scriptEngine)
-            application->scriptEngine->globalObject().setProperty(
-                item->name(), QScriptValue(), QScriptValue::KeepExistingFlags);
+            application->scriptEngine->globalObject().setProperty(item->name(), QScriptValue(),
+                                                                  QScriptValue::KeepExistingFlags);
     }
     if (iterationDepth > 0) {
         item->setActive(false);

@@ -41,8 +41,8 @@ class PhysicsWorld : public QObject
                    velocityIterationsChanged USER true)
     Q_PROPERTY(int PositionIterations READ positionIterations WRITE setPositionIterations NOTIFY
                    positionIterationsChanged USER true)
-    Q_PROPERTY(bool WarmStarting READ warmStarting WRITE setWarmStarting NOTIFY
-                   warmStartingChanged USER true)
+    Q_PROPERTY(bool WarmStarting READ warmStarting WRITE setWarmStarting NOTIFY warmStartingChanged
+                   USER true)
     Q_PROPERTY(bool ContinuousPhysics READ continuousPhysics WRITE setContinuousPhysics NOTIFY
                    continuousPhysicsChanged USER true)
     Q_PROPERTY(double Seconds READ seconds WRITE setSeconds USER true)

@@ -27,8 +27,8 @@ RectangleItem::RectangleItem(double x, double y, double theta, double w, double 
     textItem->setDefaultTextColor(Qt::black);
     textItem->setTextWidth(w * textPixelsPerMetre);
     textItem->setPos(-w / 2, h / 2);
-    textItem->setTransform(QTransform::fromScale(1.0 / textPixelsPerMetre, -1.0 / textPixelsPerMetre),
-                           true);
+    textItem->setTransform(
+        QTransform::fromScale(1.0 / textPixelsPerMetre, -1.0 / textPixelsPerMetre), true);
     textItem->setVisible(false);
 }
 
@@ -49,18 +49,24 @@ int RectangleItem::textSize() const
 
 void RectangleItem::setText(QString text)
 {
+    // Every undo and redo writes the text back: laying it out again only when it changed.
+    if (text == this->text())
+        return;
     textItem->setPlainText(text);
     textItem->setVisible(!text.isEmpty());
 }
 
 void RectangleItem::setTextColor(QColor color)
 {
-    textItem->setDefaultTextColor(color);
+    if (color != textItem->defaultTextColor())
+        textItem->setDefaultTextColor(color);
 }
 
 void RectangleItem::setTextSize(int size)
 {
     QFont font = textItem->font();
+    if (font.pointSize() == size)
+        return;
     font.setPointSize(size);
     textItem->setFont(font);
 }

@@ -6,4 +6,4 @@ Action::Action(const QIcon& icon, const QString& text, QObject* parent)
     connect(this, &QAction::triggered, this, &Action::onTriggered);
 }
 
-void Action::onTriggered() {}
+void Action::onTriggered() { }

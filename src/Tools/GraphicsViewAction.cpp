@@ -1,14 +1,24 @@
 #include "Tools/GraphicsViewAction.h"
 
+#include "Application/Application.h"
 #include "Application/Settings.h"
 #include "NemuToolbox/Toolbox.h"
+#include "View/CosmeticPens.h"
 #include "View/GraphicsScene.h"
 #include "View/GraphicsView.h"
 #include "View/GridGraphicsItem.h"
 #include "View/SnapPointGraphicsItem.h"
 
+#include <QGraphicsItem>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QToolTip>
+#include <QUndoStack>
+
+namespace {
+// Previews lie above every item; bodies and joints count their z values up from 0.
+const double previewZValue = 100000.0;
+} // namespace
 
 GraphicsViewAction::GraphicsViewAction(const QIcon& icon, const QString& text, QObject* parent,
                                        GraphicsView* graphicsView)
@@ -26,8 +36,7 @@ QPointF GraphicsViewAction::snappedScenePos(const QPoint& pos) const
     if (settings->snapToGrid) {
         snapped = graphicsView->gridItem()->snapToGrid(point);
     } else if (settings->snapToObjects) {
-        auto* scene = static_cast<GraphicsScene*>(graphicsView->scene());
-        if (!scene->snapPoint(point, settings->maxObjectSnapDistance, snapped))
+        if (!graphicsScene()->snapPoint(point, settings->maxObjectSnapDistance, snapped))
             return point;
     } else {
         return point;
@@ -42,15 +51,15 @@ void GraphicsViewAction::cancel()
     reset();
 }
 
-void GraphicsViewAction::reset() {}
+void GraphicsViewAction::reset() { }
 
-void GraphicsViewAction::mousePressEvent(QMouseEvent*) {}
+void GraphicsViewAction::mousePressEvent(QMouseEvent*) { }
 
-void GraphicsViewAction::mouseMoveEvent(QMouseEvent*) {}
+void GraphicsViewAction::mouseMoveEvent(QMouseEvent*) { }
 
-void GraphicsViewAction::mouseReleaseEvent(QMouseEvent*) {}
+void GraphicsViewAction::mouseReleaseEvent(QMouseEvent*) { }
 
-void GraphicsViewAction::wheelEvent(QWheelEvent*) {}
+void GraphicsViewAction::wheelEvent(QWheelEvent*) { }
 
 void GraphicsViewAction::keyPressEvent(QKeyEvent* event)
 {
@@ -84,4 +93,39 @@ void GraphicsViewAction::pickBrush()
     brush.setStyle(Qt::SolidPattern);
     if (Settings::instance()->isStaticDefault)
         brush.setTexture(QPixmap(QStringLiteral(":/images/wall.png")));
+}
+
+void GraphicsViewAction::addPreview(QGraphicsItem* preview, PreviewPen pen, double opacity) const
+{
+    if (pen == PreviewPen::Cosmetic)
+        CosmeticPens::apply(preview);
+    preview->setOpacity(opacity);
+    preview->setZValue(previewZValue);
+    preview->hide();
+    graphicsScene()->addItem(preview);
+}
+
+void GraphicsViewAction::showSizeToolTip(const QPoint& pos, const QString& text) const
+{
+    QToolTip::showText(graphicsView->viewport()->mapToGlobal(pos), text, graphicsView);
+}
+
+void GraphicsViewAction::hideSizeToolTip() const
+{
+    QToolTip::showText(QPoint(), QString(), graphicsView);
+}
+
+QString GraphicsViewAction::lengthText(double metres)
+{
+    return QString::number(metres, 'f', 3);
+}
+
+GraphicsScene* GraphicsViewAction::graphicsScene() const
+{
+    return static_cast<GraphicsScene*>(graphicsView->scene());
+}
+
+void GraphicsViewAction::push(QUndoCommand* command)
+{
+    Application::instance()->undoStack->push(command);
 }

@@ -7,9 +7,12 @@
 #include <QPointF>
 
 class ActionContextWidget;
+class GraphicsScene;
 class GraphicsView;
+class QGraphicsItem;
 class QKeyEvent;
 class QMouseEvent;
+class QUndoCommand;
 class QWheelEvent;
 
 // Base of the tools. Exactly one tool is current; the view hands it every mouse, wheel and
@@ -46,6 +49,24 @@ protected:
     virtual QPixmap cursorPixmap();
     // A fresh brush for the next body: a random colour, the wall texture for static bodies.
     void pickBrush();
+
+    // Whether a preview keeps the pen it has or gets the one-pixel cosmetic pen of outlines.
+    enum class PreviewPen { Cosmetic, Own };
+    // Puts a tool's preview into the scene, hidden, above every item, at the given opacity.
+    // The scene owns it from then on. A preview belongs to no physics item, so hit tests and
+    // snapping pass over it.
+    void addPreview(QGraphicsItem* preview, PreviewPen pen = PreviewPen::Cosmetic,
+                    double opacity = 0.75) const;
+    // Shows the sizes of a gesture beside the cursor; `pos` in viewport coordinates.
+    void showSizeToolTip(const QPoint& pos, const QString& text) const;
+    void hideSizeToolTip() const;
+    // A length in metres as the size tooltips show it.
+    static QString lengthText(double metres);
+
+    GraphicsScene* graphicsScene() const;
+    // Pushes a finished gesture's command on the application's undo stack, which takes it
+    // and runs its first redo at once.
+    static void push(QUndoCommand* command);
 
     GraphicsView* graphicsView;
     QBrush brush;

@@ -39,5 +39,6 @@ void GridGraphicsItem::rebuild(double halfSize, double step)
 
 QPointF GridGraphicsItem::snapToGrid(const QPointF& point) const
 {
-    return QPointF(qRound(point.x() / gridStep) * gridStep, qRound(point.y() / gridStep) * gridStep);
+    return QPointF(qRound(point.x() / gridStep) * gridStep,
+                   qRound(point.y() / gridStep) * gridStep);
 }

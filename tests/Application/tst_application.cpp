@@ -66,7 +66,8 @@ private slots:
         application()->setLanguage(QLocale::German);
         QCOMPARE(application()->language(), QLocale::German);
         QCOMPARE(QCoreApplication::translate("Application", "%1 failed to load."),
-                 application()->translators.value(QLocale::German)
+                 application()
+                     ->translators.value(QLocale::German)
                      ->translate("Application", "%1 failed to load."));
         application()->setLanguage(QLocale::English);
         QCOMPARE(application()->language(), QLocale::English);
@@ -92,7 +93,8 @@ private slots:
         for (const char* global : {"app", "world", "mainWindow", "graphicsView"})
             QVERIFY2(engine->globalObject().property(QLatin1String(global)).isQObject(), global);
         QCOMPARE(engine->evaluate(QStringLiteral("world.StepFrequency")).toInt32(), 60);
-        QVERIFY(log.lines().contains(QStringLiteral("qt.core successfully imported into script engine")));
+        QVERIFY(log.lines().contains(
+            QStringLiteral("qt.core successfully imported into script engine")));
     }
 
     void postInitialiseMakesFirstScene()

@@ -4,8 +4,10 @@
 #include "Commands/PlayCommand.h"
 #include "Commands/RectangleCommand.h"
 #include "Commands/RemoveCommand.h"
+#include "Commands/RevoluteJointCommand.h"
 #include "Physics/PhysicsWorld.h"
 #include "Physics/RectangleItem.h"
+#include "Physics/RevoluteJoint.h"
 #include "Tools/PlayPauseAction.h"
 
 #include <QGraphicsItem>
@@ -142,6 +144,30 @@ private slots:
         stack()->undo();
         QCOMPARE(box->linearVelocityX(), 0.0);
         world()->setGravityY(-10.0);
+    }
+
+    void jointComesBackWithItsLimits()
+    {
+        RectangleItem* box = pushRectangle(0, 5);
+        auto* command = new RevoluteJointCommand(box, nullptr, QPointF(0, 5), 0.25);
+        auto* joint = static_cast<RevoluteJoint*>(command->item());
+        QVERIFY(!joint->isActive());
+        stack()->push(command);
+        QCOMPARE(world()->jointCount(), 1);
+        QVERIFY(joint->graphicsItem()->isSelected());
+        joint->setLimits(-20.0, 35.0);
+        joint->setLimitEnabled(true);
+        stack()->push(new RemoveCommand(QRectF(QPointF(0, 5), QSizeF(0, 0))));
+        QCOMPARE(world()->jointCount(), 0);
+        stack()->undo();
+        QCOMPARE(world()->jointCount(), 1);
+        QVERIFY(qAbs(joint->lowerLimit() + 20.0) < 1e-4);
+        QVERIFY(qAbs(joint->upperLimit() - 35.0) < 1e-4);
+        QVERIFY(joint->limitEnabled());
+        stack()->undo();
+        QCOMPARE(world()->jointCount(), 0);
+        stack()->redo();
+        QCOMPARE(world()->jointCount(), 1);
     }
 
     void scriptDeletesItemsCommandsReferTo()

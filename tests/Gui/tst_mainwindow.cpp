@@ -166,30 +166,30 @@ private slots:
             false);
         row(Id::Gun, "Shoot Item", "Shoots an item", "gun", Key(), false);
         row(Id::Plot, "Create Plot", "Creates a plot for a given item", "graph", Key(), false);
-        row(Id::Rectangle, "Create Rectangle", "Creates a rectangle", "rectangle", Key(), false);
-        row(Id::Circle, "Create Circle", "Creates a circle", "circle", Key(), false);
-        row(Id::Polygon, "Create Polygon", "Creates a polygon", "polygon", Key(), false);
-        row(Id::Balloon, "Create Balloon", "Creates a balloon", "balloon", Key(), false);
+        row(Id::Rectangle, "Create Rectangle", "Creates a rectangle", "rectangle", Key(), true);
+        row(Id::Circle, "Create Circle", "Creates a circle", "circle", Key(), true);
+        row(Id::Polygon, "Create Polygon", "Creates a polygon", "polygon", Key(), true);
+        row(Id::Balloon, "Create Balloon", "Creates a balloon", "balloon", Key(), true);
         row(Id::Brush, "Create freehand shape", "Freehand drawing of random shapes", "brush", Key(),
             false);
         row(Id::Chain, "Create Chain", "Creates a chain", "chain", Key(), false);
         row(Id::Rope, "Create Rope", "Creates a rope", "rope", Key(), false);
         row(Id::Text, "Create Text", "Creates items from text", "text", Key(), false);
-        row(Id::Gear, "Create Gear", "Creates a gear", "gear", Key(), false);
+        row(Id::Gear, "Create Gear", "Creates a gear", "gear", Key(), true);
         row(Id::Image, "Create Image", "Creates a shape based on the outline of a (png) image",
             "image", Key(), false);
         row(Id::DistanceJoint, "Create Distance Joint",
             "Creates a distance joint between two items (or an item and the background)", "D",
-            Key(), false);
+            Key(), true);
         row(Id::RevoluteJoint, "Create Revolute Joint",
             "Creates a revolute joint between two items (or an item and the background)", "R",
-            Key(), false);
+            Key(), true);
         row(Id::PrismaticJoint, "Create Prismatic Joint",
-            "Creates a prismatic joint between two items", "Pr", Key(), false);
+            "Creates a prismatic joint between two items", "Pr", Key(), true);
         row(Id::PulleyJoint, "Create Pulley Joint", "Creates a pulley joint between two items",
-            "Pu", Key(), false);
+            "Pu", Key(), true);
         row(Id::SpringForce, "Create Spring", "Creates a spring between two items", "spring", Key(),
-            false);
+            true);
         row(Id::Union, "Union", "Creates an item from the union of two other items", "union", Key(),
             false);
         row(Id::Difference, "Difference", "Creates an item from the difference of two other items",

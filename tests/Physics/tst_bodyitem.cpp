@@ -47,13 +47,20 @@ private slots:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("normal");
         QTest::addColumn<int>("number");
-        QTest::newRow("unsorted lower case") << "ba" << "AB" << 3;
-        QTest::newRow("first and last") << "pa" << "AP" << 32769;
-        QTest::newRow("repeated") << "APa" << "AP" << 32769;
-        QTest::newRow("empty means A") << "" << "A" << 1;
-        QTest::newRow("no letters") << "123" << "" << 0;
-        QTest::newRow("beyond P") << "QZ" << "" << 0;
-        QTest::newRow("all") << "ABCDEFGHIJKLMNOP" << "ABCDEFGHIJKLMNOP" << 65535;
+        QTest::newRow("unsorted lower case") << "ba"
+                                             << "AB" << 3;
+        QTest::newRow("first and last") << "pa"
+                                        << "AP" << 32769;
+        QTest::newRow("repeated") << "APa"
+                                  << "AP" << 32769;
+        QTest::newRow("empty means A") << ""
+                                       << "A" << 1;
+        QTest::newRow("no letters") << "123"
+                                    << "" << 0;
+        QTest::newRow("beyond P") << "QZ"
+                                  << "" << 0;
+        QTest::newRow("all") << "ABCDEFGHIJKLMNOP"
+                             << "ABCDEFGHIJKLMNOP" << 65535;
     }
     void flagsString()
     {
@@ -203,8 +210,8 @@ private slots:
     void rectangleText()
     {
         RectangleItem* body = world->createRectangle(0, 0, 0, 2, 1);
-        auto* textItem = qgraphicsitem_cast<QGraphicsTextItem*>(
-            body->graphicsItem()->childItems().last());
+        auto* textItem
+            = qgraphicsitem_cast<QGraphicsTextItem*>(body->graphicsItem()->childItems().last());
         QVERIFY(textItem);
         QVERIFY(!textItem->isVisible());
         QCOMPARE(textItem->textWidth(), 100.0);

@@ -75,7 +75,8 @@ private slots:
         steps(30);
         QVERIFY(floorGuard.isNull());
         QVERIFY(!world()->physicsItemFromName(floorName));
-        QCOMPARE(run(QStringLiteral("typeof %1").arg(floorName)).toString(), QStringLiteral("undefined"));
+        QCOMPARE(run(QStringLiteral("typeof %1").arg(floorName)).toString(),
+                 QStringLiteral("undefined"));
         QCOMPARE(run(QStringLiteral("hits")).toInt32(), 1);
     }
 
@@ -94,7 +95,8 @@ private slots:
         RectangleItem* box = world()->createRectangle(0, 5, 0, 1, 1);
         RectangleItem* other = world()->createRectangle(3, 5, 0, 1, 1);
         QPointer<RectangleItem> otherGuard(other);
-        box->setOnStart(QStringLiteral("world.removeBody(%1); app.newFile(true);").arg(other->name()));
+        box->setOnStart(
+            QStringLiteral("world.removeBody(%1); app.newFile(true);").arg(other->name()));
         world()->start();
         world()->stop();
         QVERIFY(otherGuard.isNull());
@@ -128,7 +130,8 @@ private slots:
         RectangleItem* box = world()->createRectangle(0, 5, 0, 1, 1);
         const QString name = box->name();
         world()->removePhysicsItem(box);
-        QCOMPARE(run(QStringLiteral("typeof %1").arg(name)).toString(), QStringLiteral("undefined"));
+        QCOMPARE(run(QStringLiteral("typeof %1").arg(name)).toString(),
+                 QStringLiteral("undefined"));
         RectangleItem* next = world()->createRectangle(0, 5, 0, 1, 1);
         next->setName(name);
         QCOMPARE(next->name(), name);

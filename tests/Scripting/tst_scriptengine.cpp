@@ -1,13 +1,14 @@
 #include "ApplicationTestMain.h"
 #include "MessageLog.h"
+#include "Physics/BodyItem.h"
 #include "Physics/CircleItem.h"
 #include "Physics/PhysicsWorld.h"
 #include "Physics/RectangleItem.h"
 
 #include <QKeyEvent>
 #include <QPointer>
-#include <QSignalSpy>
 #include <QScriptEngine>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 
 // Receives item pointers from scripts, to see what the engine's conversions deliver.
@@ -196,11 +197,10 @@ private slots:
         MessageLog log;
         Application::instance()->autoloadScripts(directory.path());
         QCOMPARE(run(QStringLiteral("order")).toString(), QStringLiteral("Ab"));
-        const QStringList expected
-            = {QStringLiteral("ToolBox.script failed to load."),
-               QStringLiteral("A.script has been successfully loaded."),
-               QStringLiteral("b.script has been successfully loaded."),
-               QStringLiteral("broken.script failed to load.")};
+        const QStringList expected = {QStringLiteral("ToolBox.script failed to load."),
+                                      QStringLiteral("A.script has been successfully loaded."),
+                                      QStringLiteral("b.script has been successfully loaded."),
+                                      QStringLiteral("broken.script failed to load.")};
         QCOMPARE(log.lines(), expected);
     }
 
@@ -220,6 +220,41 @@ private slots:
         QCOMPARE(run(QStringLiteral("helperFromAutoload()")).toInt32(), 42);
     }
 
+    void toolBoxBuildsScenes()
+    {
+        QCOMPARE(run(QStringLiteral("createPyramid(3, 0, 0, 1).length")).toInt32(), 6);
+        QCOMPARE(world()->bodyItems().size(), 6);
+        double highest = 0.0;
+        for (BodyItem* body : world()->bodyItems())
+            highest = qMax(highest, body->positionY());
+        QCOMPARE(highest, 2.5);
+        QCOMPARE(run(QStringLiteral("createStack(4, 3, 0, 1, 0.5)[3].Y")).toNumber(), 1.75);
+        QCOMPARE(run(QStringLiteral("createRow(3, -5, 1, 1, 1, 0.5)[2].X")).toNumber(), -2.0);
+        run(QStringLiteral("removeBodies(world.bodyItems())"));
+        QVERIFY(world()->items().isEmpty());
+        QCOMPARE(run(QStringLiteral("Math.round(degrees(radians(30)))")).toInt32(), 30);
+    }
+
+    void toolBoxTimersCountSimulatedTime()
+    {
+        MessageLog log;
+        run(QStringLiteral("fired = []; after(0.5, function() { fired.push('once'); });"
+                           "every(0.25, function() { fired.push('tick'); });"
+                           "after(0.1, function() { throw new Error('bad'); });"));
+        for (int i = 0; i < 29; ++i)
+            world()->step();
+        QCOMPARE(run(QStringLiteral("fired.join(',')")).toString(), QStringLiteral("tick"));
+        world()->step();
+        world()->step();
+        QCOMPARE(run(QStringLiteral("fired.join(',')")).toString(),
+                 QStringLiteral("tick,once,tick"));
+        QCOMPARE(log.lines().filter(QStringLiteral("A timed callback failed")).size(), 1);
+        Application::instance()->newFile();
+        for (int i = 0; i < 60; ++i)
+            world()->step();
+        QCOMPARE(run(QStringLiteral("fired.length")).toInt32(), 3);
+    }
+
     void evaluateScriptRefusesBadFiles()
     {
         QTemporaryDir directory;
@@ -228,7 +263,8 @@ private slots:
         incomplete.write("function f() {");
         incomplete.close();
         QVERIFY(!Application::instance()->evaluateScript(incomplete.fileName()));
-        QVERIFY(!Application::instance()->evaluateScript(directory.filePath(QStringLiteral("none"))));
+        QVERIFY(
+            !Application::instance()->evaluateScript(directory.filePath(QStringLiteral("none"))));
         QFile nul(directory.filePath(QStringLiteral("nul.script")));
         QVERIFY(nul.open(QIODevice::WriteOnly));
         nul.write(QByteArray("afterNul = 1;\0garbage(", 22));

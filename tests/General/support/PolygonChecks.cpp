@@ -2,6 +2,8 @@
 
 #include "NemuGeometry/Geometry.h"
 
+#include <CGAL/Exact_predicates_inexact_constructions_kernel.h>
+
 namespace PolygonChecks {
 
 QPolygonF makePolygon(std::initializer_list<QPointF> vertices)
@@ -36,6 +38,15 @@ QPointF centroid(const QPolygonF& polygon)
     return polygon.isEmpty() ? sum : sum / polygon.size();
 }
 
+// Decided exactly: a nearly flat triangle far from the origin has a shoelace sum that
+// rounding can give either sign.
+bool isCounterClockwise(const QPolygonF& triangle)
+{
+    using Point = CGAL::Exact_predicates_inexact_constructions_kernel::Point_2;
+    const auto point = [&triangle](int i) { return Point(triangle.at(i).x(), triangle.at(i).y()); };
+    return CGAL::orientation(point(0), point(1), point(2)) == CGAL::LEFT_TURN;
+}
+
 QString triangleFault(const QList<XPolygonF>& triangles, const QRectF& bounds)
 {
     // Intersection points are computed in floating point and may stray by rounding.
@@ -45,7 +56,7 @@ QString triangleFault(const QList<XPolygonF>& triangles, const QRectF& bounds)
         const QString text = Nemu::Geometry::polygonToString(triangle);
         if (triangle.size() != 3)
             return QStringLiteral("not a triangle: %1").arg(text);
-        if (signedArea(triangle) <= 0.0)
+        if (!isCounterClockwise(triangle))
             return QStringLiteral("not counter-clockwise: %1").arg(text);
         for (const QPointF& vertex : triangle) {
             if (!allowed.contains(vertex))

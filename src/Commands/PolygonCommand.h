@@ -1,0 +1,14 @@
+#pragma once
+
+#include "Commands/BodyCommand.h"
+// Complete, for the base's guarded pointer.
+#include "Physics/BodyItem.h"
+
+#include <QPolygonF>
+
+// Adds a polygon body of any outline, given in world coordinates.
+class PolygonCommand : public BodyCommand
+{
+public:
+    PolygonCommand(const QPolygonF& polygon, const QBrush& brush, QUndoCommand* parent = nullptr);
+};
