@@ -37,10 +37,552 @@
     </message>
 </context>
 <context>
+    <name>BalloonAction</name>
+    <message>
+        <source>Create Balloon</source>
+        <translation>Ballon erstellen</translation>
+    </message>
+</context>
+<context>
+    <name>CircleAction</name>
+    <message>
+        <source>Create Circle</source>
+        <translation>Kreis erstellen</translation>
+    </message>
+    <message>
+        <source>radius=%1</source>
+        <translation>Radius=%1</translation>
+    </message>
+</context>
+<context>
+    <name>DistanceJointAction</name>
+    <message>
+        <source>Create Distance Joint</source>
+        <translation>Abstandsgelenk erstellen</translation>
+    </message>
+</context>
+<context>
     <name>GraphicsView</name>
     <message>
         <source>OpenGL is not available here; the view draws without it.</source>
         <translation>OpenGL ist hier nicht verfügbar; die Ansicht wird ohne OpenGL gezeichnet.</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>New Scene</source>
+        <translation>Neue Szene</translation>
+    </message>
+    <message>
+        <source>Creates a new scene</source>
+        <translation>Erstellt eine neue Szene</translation>
+    </message>
+    <message>
+        <source>Save Scene</source>
+        <translation>Szene speichern</translation>
+    </message>
+    <message>
+        <source>Saves current scene</source>
+        <translation>Speichert die aktuelle Szene</translation>
+    </message>
+    <message>
+        <source>Save Scene As...</source>
+        <translation>Szene speichern unter...</translation>
+    </message>
+    <message>
+        <source>Saves current scene as</source>
+        <translation>Speichert die aktuelle Szene unter einem anderen Namen</translation>
+    </message>
+    <message>
+        <source>Load Scene...</source>
+        <translation>Szene laden...</translation>
+    </message>
+    <message>
+        <source>Loads a scene</source>
+        <translation>Lädt eine Szene</translation>
+    </message>
+    <message>
+        <source>Upload Scene...</source>
+        <translation>Szene hochladen...</translation>
+    </message>
+    <message>
+        <source>Uploads current scene to %1</source>
+        <translation>Lädt die aktuelle Szene auf %1 hoch</translation>
+    </message>
+    <message>
+        <source>Download Scenes...</source>
+        <translation>Szenen herunterladen...</translation>
+    </message>
+    <message>
+        <source>Downloads scenes from %1</source>
+        <translation>Lädt Szenen von %1 herunter</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Exportieren...</translation>
+    </message>
+    <message>
+        <source>Exports current scene as an image</source>
+        <translation>Exportiert die aktuelle Szene als Bild</translation>
+    </message>
+    <message>
+        <source>Evaluate Script...</source>
+        <translation>Skript ausführen...</translation>
+    </message>
+    <message>
+        <source>Evaluates a .script file</source>
+        <translation>Führt eine .script-Datei aus</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Quits the application</source>
+        <translation>Beendet die Anwendung</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Selects all items of the scene</source>
+        <translation>Wählt alle Objekte der Szene aus</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Zooms in</source>
+        <translation>Vergrößert die Ansicht</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Zooms out</source>
+        <translation>Verkleinert die Ansicht</translation>
+    </message>
+    <message>
+        <source>Zoom Extents</source>
+        <translation>Szene einpassen</translation>
+    </message>
+    <message>
+        <source>Zooms in or out to fit the extents of the scene</source>
+        <translation>Vergrößert oder verkleinert die Ansicht, sodass die ganze Szene sichtbar ist</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Alle anzeigen</translation>
+    </message>
+    <message>
+        <source>Shows all toolbars</source>
+        <translation>Zeigt alle Werkzeugleisten an</translation>
+    </message>
+    <message>
+        <source>Hide all</source>
+        <translation>Alle ausblenden</translation>
+    </message>
+    <message>
+        <source>Hides all toolbars</source>
+        <translation>Blendet alle Werkzeugleisten aus</translation>
+    </message>
+    <message>
+        <source>Shows all dock widgets</source>
+        <translation>Zeigt alle Andockfenster an</translation>
+    </message>
+    <message>
+        <source>Hides all dock widgets</source>
+        <translation>Blendet alle Andockfenster aus</translation>
+    </message>
+    <message>
+        <source>Fullscreen</source>
+        <translation>Vollbild</translation>
+    </message>
+    <message>
+        <source>Toggles fullscreen mode</source>
+        <translation>Schaltet den Vollbildmodus ein oder aus</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Shows the application&apos;s help file</source>
+        <translation>Zeigt die Hilfedatei der Anwendung an</translation>
+    </message>
+    <message>
+        <source>About...</source>
+        <translation>Über...</translation>
+    </message>
+    <message>
+        <source>Shows the application&apos;s About box</source>
+        <translation>Zeigt das Info-Fenster der Anwendung an</translation>
+    </message>
+    <message>
+        <source>About Qt...</source>
+        <translation>Über Qt...</translation>
+    </message>
+    <message>
+        <source>Shows the Qt library&apos;s About box</source>
+        <translation>Zeigt das Info-Fenster der Qt-Bibliothek an</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Start/Pause</translation>
+    </message>
+    <message>
+        <source>Starts/Pauses the simulation</source>
+        <translation>Startet die Simulation oder hält sie an</translation>
+    </message>
+    <message>
+        <source>Select/Move</source>
+        <translation>Auswählen/Verschieben</translation>
+    </message>
+    <message>
+        <source>Selects and/or moves an item</source>
+        <translation>Wählt ein Objekt aus und/oder verschiebt es</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Removes an item or a selection of items from the scene</source>
+        <translation>Entfernt ein Objekt oder eine Auswahl von Objekten aus der Szene</translation>
+    </message>
+    <message>
+        <source>Explode Item</source>
+        <translation>Objekt sprengen</translation>
+    </message>
+    <message>
+        <source>Explodes an item</source>
+        <translation>Sprengt ein Objekt</translation>
+    </message>
+    <message>
+        <source>Erase Item</source>
+        <translation>Objekt radieren</translation>
+    </message>
+    <message>
+        <source>Erases parts of an item</source>
+        <translation>Radiert Teile eines Objekts aus</translation>
+    </message>
+    <message>
+        <source>Create Camera</source>
+        <translation>Kamera erstellen</translation>
+    </message>
+    <message>
+        <source>Creates a camera that follows an item</source>
+        <translation>Erstellt eine Kamera, die einem Objekt folgt</translation>
+    </message>
+    <message>
+        <source>Create Tracer</source>
+        <translation>Spur erstellen</translation>
+    </message>
+    <message>
+        <source>Creates a tracer that follows an item</source>
+        <translation>Erstellt eine Spur, die einem Objekt folgt</translation>
+    </message>
+    <message>
+        <source>Shoot Item</source>
+        <translation>Objekt abschießen</translation>
+    </message>
+    <message>
+        <source>Shoots an item</source>
+        <translation>Schießt ein Objekt ab</translation>
+    </message>
+    <message>
+        <source>Create Plot</source>
+        <translation>Diagramm erstellen</translation>
+    </message>
+    <message>
+        <source>Creates a plot for a given item</source>
+        <translation>Erstellt ein Diagramm für ein bestimmtes Objekt</translation>
+    </message>
+    <message>
+        <source>Create Rectangle</source>
+        <translation>Rechteck erstellen</translation>
+    </message>
+    <message>
+        <source>Creates a rectangle</source>
+        <translation>Erstellt ein Rechteck</translation>
+    </message>
+    <message>
+        <source>Create Circle</source>
+        <translation>Kreis erstellen</translation>
+    </message>
+    <message>
+        <source>Creates a circle</source>
+        <translation>Erstellt einen Kreis</translation>
+    </message>
+    <message>
+        <source>Create Polygon</source>
+        <translation>Polygon erstellen</translation>
+    </message>
+    <message>
+        <source>Creates a polygon</source>
+        <translation>Erstellt ein Polygon</translation>
+    </message>
+    <message>
+        <source>Create Balloon</source>
+        <translation>Ballon erstellen</translation>
+    </message>
+    <message>
+        <source>Creates a balloon</source>
+        <translation>Erstellt einen Ballon</translation>
+    </message>
+    <message>
+        <source>Create freehand shape</source>
+        <translation>Freihandform erstellen</translation>
+    </message>
+    <message>
+        <source>Freehand drawing of random shapes</source>
+        <translation>Zeichnet beliebige Formen freihändig</translation>
+    </message>
+    <message>
+        <source>Create Chain</source>
+        <translation>Kette erstellen</translation>
+    </message>
+    <message>
+        <source>Creates a chain</source>
+        <translation>Erstellt eine Kette</translation>
+    </message>
+    <message>
+        <source>Create Rope</source>
+        <translation>Seil erstellen</translation>
+    </message>
+    <message>
+        <source>Creates a rope</source>
+        <translation>Erstellt ein Seil</translation>
+    </message>
+    <message>
+        <source>Create Text</source>
+        <translation>Text erstellen</translation>
+    </message>
+    <message>
+        <source>Creates items from text</source>
+        <translation>Erstellt Objekte aus Text</translation>
+    </message>
+    <message>
+        <source>Create Gear</source>
+        <translation>Zahnrad erstellen</translation>
+    </message>
+    <message>
+        <source>Creates a gear</source>
+        <translation>Erstellt ein Zahnrad</translation>
+    </message>
+    <message>
+        <source>Create Image</source>
+        <translation>Aus Bild erstellen</translation>
+    </message>
+    <message>
+        <source>Creates a shape based on the outline of a (png) image</source>
+        <translation>Erstellt eine Form anhand der Umrisse eines (PNG-)Bildes</translation>
+    </message>
+    <message>
+        <source>Create Distance Joint</source>
+        <translation>Abstandsgelenk erstellen</translation>
+    </message>
+    <message>
+        <source>Creates a distance joint between two items (or an item and the background)</source>
+        <translation>Erstellt ein Abstandsgelenk zwischen zwei Objekten (oder einem Objekt und dem Hintergrund)</translation>
+    </message>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>Drehgelenk erstellen</translation>
+    </message>
+    <message>
+        <source>Creates a revolute joint between two items (or an item and the background)</source>
+        <translation>Erstellt ein Drehgelenk zwischen zwei Objekten (oder einem Objekt und dem Hintergrund)</translation>
+    </message>
+    <message>
+        <source>Create Prismatic Joint</source>
+        <translation>Schubgelenk erstellen</translation>
+    </message>
+    <message>
+        <source>Creates a prismatic joint between two items</source>
+        <translation>Erstellt ein Schubgelenk zwischen zwei Objekten</translation>
+    </message>
+    <message>
+        <source>Create Pulley Joint</source>
+        <translation>Flaschenzuggelenk erstellen</translation>
+    </message>
+    <message>
+        <source>Creates a pulley joint between two items</source>
+        <translation>Erstellt ein Flaschenzuggelenk zwischen zwei Objekten</translation>
+    </message>
+    <message>
+        <source>Create Spring</source>
+        <translation>Feder erstellen</translation>
+    </message>
+    <message>
+        <source>Creates a spring between two items</source>
+        <translation>Erstellt eine Feder zwischen zwei Objekten</translation>
+    </message>
+    <message>
+        <source>Union</source>
+        <translation>Vereinigung</translation>
+    </message>
+    <message>
+        <source>Creates an item from the union of two other items</source>
+        <translation>Erstellt ein Objekt aus der Vereinigung zweier anderer Objekte</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Differenz</translation>
+    </message>
+    <message>
+        <source>Creates an item from the difference of two other items</source>
+        <translation>Erstellt ein Objekt aus der Differenz zweier anderer Objekte</translation>
+    </message>
+    <message>
+        <source>Intersection</source>
+        <translation>Schnittmenge</translation>
+    </message>
+    <message>
+        <source>Creates an item from the intersection of two other items</source>
+        <translation>Erstellt ein Objekt aus der Schnittmenge zweier anderer Objekte</translation>
+    </message>
+    <message>
+        <source>General Toolbar</source>
+        <translation>Allgemeine Werkzeugleiste</translation>
+    </message>
+    <message>
+        <source>Bodies Toolbar</source>
+        <translation>Werkzeugleiste Körper</translation>
+    </message>
+    <message>
+        <source>Joints Toolbar</source>
+        <translation>Werkzeugleiste Gelenke</translation>
+    </message>
+    <message>
+        <source>Forces Toolbar</source>
+        <translation>Werkzeugleiste Kräfte</translation>
+    </message>
+    <message>
+        <source>Boolean Toolbar</source>
+        <translation>Werkzeugleiste Boolesche Operationen</translation>
+    </message>
+    <message>
+        <source>Snap Toolbar</source>
+        <translation>Werkzeugleiste Fangen</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Konsole</translation>
+    </message>
+    <message>
+        <source>Scene Properties</source>
+        <translation>Szeneneigenschaften</translation>
+    </message>
+    <message>
+        <source>Property Editor</source>
+        <translation>Eigenschaftseditor</translation>
+    </message>
+    <message>
+        <source>Quick Load</source>
+        <translation>Schnellladen</translation>
+    </message>
+    <message>
+        <source>Commands History</source>
+        <translation>Befehlsverlauf</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Toolbars</source>
+        <translation>Werkzeugleisten</translation>
+    </message>
+    <message>
+        <source>Dock Widgets</source>
+        <translation>Andockfenster</translation>
+    </message>
+    <message>
+        <source>Perspectives</source>
+        <translation>Perspektiven</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>Action Context Toolbar</source>
+        <translation>Werkzeugkontext-Leiste</translation>
+    </message>
+    <message>
+        <source>New file created</source>
+        <translation>Neue Datei erstellt</translation>
+    </message>
+    <message>
+        <source>File saved (%1)</source>
+        <translation>Datei gespeichert (%1)</translation>
+    </message>
+    <message>
+        <source>File loaded (%1)</source>
+        <translation>Datei geladen (%1)</translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 - %2</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Laden</translation>
+    </message>
+    <message>
+        <source>*.script</source>
+        <translation>*.script</translation>
+    </message>
+</context>
+<context>
+    <name>PlayPauseAction</name>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Start/Pause</translation>
+    </message>
+</context>
+<context>
+    <name>PolygonAction</name>
+    <message>
+        <source>Create Polygon</source>
+        <translation>Polygon erstellen</translation>
     </message>
 </context>
 <context>
@@ -48,6 +590,20 @@
     <message>
         <source>Clipper Failed...</source>
         <translation>Clipper fehlgeschlagen...</translation>
+    </message>
+</context>
+<context>
+    <name>PrismaticJointAction</name>
+    <message>
+        <source>Create Prismatic Joint</source>
+        <translation>Schubgelenk erstellen</translation>
+    </message>
+</context>
+<context>
+    <name>PulleyJointAction</name>
+    <message>
+        <source>Create Pulley Joint</source>
+        <translation>Flaschenzuggelenk erstellen</translation>
     </message>
 </context>
 <context>
@@ -59,6 +615,103 @@
     <message>
         <source>Made by the Brivane Project</source>
         <translation>Erstellt vom Brivane-Projekt</translation>
+    </message>
+    <message>
+        <source>Balloon</source>
+        <translation>Ballon</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Kreis</translation>
+    </message>
+    <message>
+        <source>Distance Joint</source>
+        <translation>Abstandsgelenk</translation>
+    </message>
+    <message>
+        <source>Linear Impulse</source>
+        <translation>Linearer Impuls</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Polygon</translation>
+    </message>
+    <message>
+        <source>Prismatic Joint</source>
+        <translation>Schubgelenk</translation>
+    </message>
+    <message>
+        <source>Pulley Joint</source>
+        <translation>Flaschenzuggelenk</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rechteck</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Revolute Joint</source>
+        <translation>Drehgelenk</translation>
+    </message>
+    <message>
+        <source>Spring Force</source>
+        <translation>Federkraft</translation>
+    </message>
+</context>
+<context>
+    <name>RectangleAction</name>
+    <message>
+        <source>Create Rectangle</source>
+        <translation>Rechteck erstellen</translation>
+    </message>
+    <message>
+        <source>width=%1
+height=%2</source>
+        <translation>Breite=%1
+Höhe=%2</translation>
+    </message>
+</context>
+<context>
+    <name>RevoluteJointAction</name>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>Drehgelenk erstellen</translation>
+    </message>
+</context>
+<context>
+    <name>SelectAction</name>
+    <message>
+        <source>Select/Move</source>
+        <translation>Auswählen/Verschieben</translation>
+    </message>
+</context>
+<context>
+    <name>SpringForceAction</name>
+    <message>
+        <source>Create Spring</source>
+        <translation>Feder erstellen</translation>
+    </message>
+</context>
+<context>
+    <name>StatusBar</name>
+    <message>
+        <source>&lt;B&gt;FPS&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;FPS&lt;/B&gt;: %1</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;X&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;X&lt;/B&gt;: %1</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;Y&lt;/B&gt;: %1</translation>
     </message>
 </context>
 <context>

@@ -37,10 +37,552 @@
     </message>
 </context>
 <context>
+    <name>BalloonAction</name>
+    <message>
+        <source>Create Balloon</source>
+        <translation>Δημιουργία μπαλονιού</translation>
+    </message>
+</context>
+<context>
+    <name>CircleAction</name>
+    <message>
+        <source>Create Circle</source>
+        <translation>Δημιουργία κύκλου</translation>
+    </message>
+    <message>
+        <source>radius=%1</source>
+        <translation>ακτίνα=%1</translation>
+    </message>
+</context>
+<context>
+    <name>DistanceJointAction</name>
+    <message>
+        <source>Create Distance Joint</source>
+        <translation>Δημιουργία άρθρωσης απόστασης</translation>
+    </message>
+</context>
+<context>
     <name>GraphicsView</name>
     <message>
         <source>OpenGL is not available here; the view draws without it.</source>
         <translation>Το OpenGL δεν είναι διαθέσιμο εδώ· η προβολή σχεδιάζεται χωρίς αυτό.</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>New Scene</source>
+        <translation>Νέα σκηνή</translation>
+    </message>
+    <message>
+        <source>Creates a new scene</source>
+        <translation>Δημιουργεί μια νέα σκηνή</translation>
+    </message>
+    <message>
+        <source>Save Scene</source>
+        <translation>Αποθήκευση σκηνής</translation>
+    </message>
+    <message>
+        <source>Saves current scene</source>
+        <translation>Αποθηκεύει την τρέχουσα σκηνή</translation>
+    </message>
+    <message>
+        <source>Save Scene As...</source>
+        <translation>Αποθήκευση σκηνής ως...</translation>
+    </message>
+    <message>
+        <source>Saves current scene as</source>
+        <translation>Αποθηκεύει την τρέχουσα σκηνή με άλλο όνομα</translation>
+    </message>
+    <message>
+        <source>Load Scene...</source>
+        <translation>Φόρτωση σκηνής...</translation>
+    </message>
+    <message>
+        <source>Loads a scene</source>
+        <translation>Φορτώνει μια σκηνή</translation>
+    </message>
+    <message>
+        <source>Upload Scene...</source>
+        <translation>Αποστολή σκηνής...</translation>
+    </message>
+    <message>
+        <source>Uploads current scene to %1</source>
+        <translation>Ανεβάζει την τρέχουσα σκηνή στο %1</translation>
+    </message>
+    <message>
+        <source>Download Scenes...</source>
+        <translation>Λήψη σκηνών...</translation>
+    </message>
+    <message>
+        <source>Downloads scenes from %1</source>
+        <translation>Κατεβάζει σκηνές από το %1</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Εξαγωγή...</translation>
+    </message>
+    <message>
+        <source>Exports current scene as an image</source>
+        <translation>Εξάγει την τρέχουσα σκηνή ως εικόνα</translation>
+    </message>
+    <message>
+        <source>Evaluate Script...</source>
+        <translation>Εκτέλεση σεναρίου...</translation>
+    </message>
+    <message>
+        <source>Evaluates a .script file</source>
+        <translation>Εκτελεί ένα αρχείο .script</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Έξοδος</translation>
+    </message>
+    <message>
+        <source>Quits the application</source>
+        <translation>Τερματίζει την εφαρμογή</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Αναίρεση</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Επανάληψη</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Επιλογή όλων</translation>
+    </message>
+    <message>
+        <source>Selects all items of the scene</source>
+        <translation>Επιλέγει όλα τα αντικείμενα της σκηνής</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>Μεγέθυνση</translation>
+    </message>
+    <message>
+        <source>Zooms in</source>
+        <translation>Μεγεθύνει την προβολή</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Σμίκρυνση</translation>
+    </message>
+    <message>
+        <source>Zooms out</source>
+        <translation>Σμικρύνει την προβολή</translation>
+    </message>
+    <message>
+        <source>Zoom Extents</source>
+        <translation>Προσαρμογή στη σκηνή</translation>
+    </message>
+    <message>
+        <source>Zooms in or out to fit the extents of the scene</source>
+        <translation>Μεγεθύνει ή σμικρύνει την προβολή ώστε να χωρά ολόκληρη η σκηνή</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Εμφάνιση όλων</translation>
+    </message>
+    <message>
+        <source>Shows all toolbars</source>
+        <translation>Εμφανίζει όλες τις γραμμές εργαλείων</translation>
+    </message>
+    <message>
+        <source>Hide all</source>
+        <translation>Απόκρυψη όλων</translation>
+    </message>
+    <message>
+        <source>Hides all toolbars</source>
+        <translation>Αποκρύπτει όλες τις γραμμές εργαλείων</translation>
+    </message>
+    <message>
+        <source>Shows all dock widgets</source>
+        <translation>Εμφανίζει όλα τα προσαρτώμενα παράθυρα</translation>
+    </message>
+    <message>
+        <source>Hides all dock widgets</source>
+        <translation>Αποκρύπτει όλα τα προσαρτώμενα παράθυρα</translation>
+    </message>
+    <message>
+        <source>Fullscreen</source>
+        <translation>Πλήρης οθόνη</translation>
+    </message>
+    <message>
+        <source>Toggles fullscreen mode</source>
+        <translation>Ενεργοποιεί ή απενεργοποιεί τη λειτουργία πλήρους οθόνης</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Βοήθεια</translation>
+    </message>
+    <message>
+        <source>Shows the application&apos;s help file</source>
+        <translation>Εμφανίζει το αρχείο βοήθειας της εφαρμογής</translation>
+    </message>
+    <message>
+        <source>About...</source>
+        <translation>Σχετικά...</translation>
+    </message>
+    <message>
+        <source>Shows the application&apos;s About box</source>
+        <translation>Εμφανίζει το πλαίσιο «Σχετικά» της εφαρμογής</translation>
+    </message>
+    <message>
+        <source>About Qt...</source>
+        <translation>Σχετικά με το Qt...</translation>
+    </message>
+    <message>
+        <source>Shows the Qt library&apos;s About box</source>
+        <translation>Εμφανίζει το πλαίσιο «Σχετικά» της βιβλιοθήκης Qt</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Έναρξη/Παύση</translation>
+    </message>
+    <message>
+        <source>Starts/Pauses the simulation</source>
+        <translation>Ξεκινά ή θέτει σε παύση την προσομοίωση</translation>
+    </message>
+    <message>
+        <source>Select/Move</source>
+        <translation>Επιλογή/Μετακίνηση</translation>
+    </message>
+    <message>
+        <source>Selects and/or moves an item</source>
+        <translation>Επιλέγει ή/και μετακινεί ένα αντικείμενο</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Αφαίρεση</translation>
+    </message>
+    <message>
+        <source>Removes an item or a selection of items from the scene</source>
+        <translation>Αφαιρεί ένα αντικείμενο ή μια επιλογή αντικειμένων από τη σκηνή</translation>
+    </message>
+    <message>
+        <source>Explode Item</source>
+        <translation>Έκρηξη αντικειμένου</translation>
+    </message>
+    <message>
+        <source>Explodes an item</source>
+        <translation>Προκαλεί την έκρηξη ενός αντικειμένου</translation>
+    </message>
+    <message>
+        <source>Erase Item</source>
+        <translation>Σβήσιμο αντικειμένου</translation>
+    </message>
+    <message>
+        <source>Erases parts of an item</source>
+        <translation>Σβήνει τμήματα ενός αντικειμένου</translation>
+    </message>
+    <message>
+        <source>Create Camera</source>
+        <translation>Δημιουργία κάμερας</translation>
+    </message>
+    <message>
+        <source>Creates a camera that follows an item</source>
+        <translation>Δημιουργεί μια κάμερα που ακολουθεί ένα αντικείμενο</translation>
+    </message>
+    <message>
+        <source>Create Tracer</source>
+        <translation>Δημιουργία ιχνηλάτη</translation>
+    </message>
+    <message>
+        <source>Creates a tracer that follows an item</source>
+        <translation>Δημιουργεί έναν ιχνηλάτη που ακολουθεί ένα αντικείμενο</translation>
+    </message>
+    <message>
+        <source>Shoot Item</source>
+        <translation>Εκτόξευση αντικειμένου</translation>
+    </message>
+    <message>
+        <source>Shoots an item</source>
+        <translation>Εκτοξεύει ένα αντικείμενο</translation>
+    </message>
+    <message>
+        <source>Create Plot</source>
+        <translation>Δημιουργία γραφήματος</translation>
+    </message>
+    <message>
+        <source>Creates a plot for a given item</source>
+        <translation>Δημιουργεί ένα γράφημα για ένα συγκεκριμένο αντικείμενο</translation>
+    </message>
+    <message>
+        <source>Create Rectangle</source>
+        <translation>Δημιουργία ορθογωνίου</translation>
+    </message>
+    <message>
+        <source>Creates a rectangle</source>
+        <translation>Δημιουργεί ένα ορθογώνιο</translation>
+    </message>
+    <message>
+        <source>Create Circle</source>
+        <translation>Δημιουργία κύκλου</translation>
+    </message>
+    <message>
+        <source>Creates a circle</source>
+        <translation>Δημιουργεί έναν κύκλο</translation>
+    </message>
+    <message>
+        <source>Create Polygon</source>
+        <translation>Δημιουργία πολυγώνου</translation>
+    </message>
+    <message>
+        <source>Creates a polygon</source>
+        <translation>Δημιουργεί ένα πολύγωνο</translation>
+    </message>
+    <message>
+        <source>Create Balloon</source>
+        <translation>Δημιουργία μπαλονιού</translation>
+    </message>
+    <message>
+        <source>Creates a balloon</source>
+        <translation>Δημιουργεί ένα μπαλόνι</translation>
+    </message>
+    <message>
+        <source>Create freehand shape</source>
+        <translation>Δημιουργία ελεύθερου σχήματος</translation>
+    </message>
+    <message>
+        <source>Freehand drawing of random shapes</source>
+        <translation>Ελεύθερη σχεδίαση τυχαίων σχημάτων</translation>
+    </message>
+    <message>
+        <source>Create Chain</source>
+        <translation>Δημιουργία αλυσίδας</translation>
+    </message>
+    <message>
+        <source>Creates a chain</source>
+        <translation>Δημιουργεί μια αλυσίδα</translation>
+    </message>
+    <message>
+        <source>Create Rope</source>
+        <translation>Δημιουργία σχοινιού</translation>
+    </message>
+    <message>
+        <source>Creates a rope</source>
+        <translation>Δημιουργεί ένα σχοινί</translation>
+    </message>
+    <message>
+        <source>Create Text</source>
+        <translation>Δημιουργία κειμένου</translation>
+    </message>
+    <message>
+        <source>Creates items from text</source>
+        <translation>Δημιουργεί αντικείμενα από κείμενο</translation>
+    </message>
+    <message>
+        <source>Create Gear</source>
+        <translation>Δημιουργία γραναζιού</translation>
+    </message>
+    <message>
+        <source>Creates a gear</source>
+        <translation>Δημιουργεί ένα γρανάζι</translation>
+    </message>
+    <message>
+        <source>Create Image</source>
+        <translation>Δημιουργία από εικόνα</translation>
+    </message>
+    <message>
+        <source>Creates a shape based on the outline of a (png) image</source>
+        <translation>Δημιουργεί ένα σχήμα με βάση το περίγραμμα μιας εικόνας (PNG)</translation>
+    </message>
+    <message>
+        <source>Create Distance Joint</source>
+        <translation>Δημιουργία άρθρωσης απόστασης</translation>
+    </message>
+    <message>
+        <source>Creates a distance joint between two items (or an item and the background)</source>
+        <translation>Δημιουργεί μια άρθρωση απόστασης μεταξύ δύο αντικειμένων (ή ενός αντικειμένου και του φόντου)</translation>
+    </message>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>Δημιουργία περιστροφικής άρθρωσης</translation>
+    </message>
+    <message>
+        <source>Creates a revolute joint between two items (or an item and the background)</source>
+        <translation>Δημιουργεί μια περιστροφική άρθρωση μεταξύ δύο αντικειμένων (ή ενός αντικειμένου και του φόντου)</translation>
+    </message>
+    <message>
+        <source>Create Prismatic Joint</source>
+        <translation>Δημιουργία πρισματικής άρθρωσης</translation>
+    </message>
+    <message>
+        <source>Creates a prismatic joint between two items</source>
+        <translation>Δημιουργεί μια πρισματική άρθρωση μεταξύ δύο αντικειμένων</translation>
+    </message>
+    <message>
+        <source>Create Pulley Joint</source>
+        <translation>Δημιουργία άρθρωσης τροχαλίας</translation>
+    </message>
+    <message>
+        <source>Creates a pulley joint between two items</source>
+        <translation>Δημιουργεί μια άρθρωση τροχαλίας μεταξύ δύο αντικειμένων</translation>
+    </message>
+    <message>
+        <source>Create Spring</source>
+        <translation>Δημιουργία ελατηρίου</translation>
+    </message>
+    <message>
+        <source>Creates a spring between two items</source>
+        <translation>Δημιουργεί ένα ελατήριο μεταξύ δύο αντικειμένων</translation>
+    </message>
+    <message>
+        <source>Union</source>
+        <translation>Ένωση</translation>
+    </message>
+    <message>
+        <source>Creates an item from the union of two other items</source>
+        <translation>Δημιουργεί ένα αντικείμενο από την ένωση δύο άλλων αντικειμένων</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Διαφορά</translation>
+    </message>
+    <message>
+        <source>Creates an item from the difference of two other items</source>
+        <translation>Δημιουργεί ένα αντικείμενο από τη διαφορά δύο άλλων αντικειμένων</translation>
+    </message>
+    <message>
+        <source>Intersection</source>
+        <translation>Τομή</translation>
+    </message>
+    <message>
+        <source>Creates an item from the intersection of two other items</source>
+        <translation>Δημιουργεί ένα αντικείμενο από την τομή δύο άλλων αντικειμένων</translation>
+    </message>
+    <message>
+        <source>General Toolbar</source>
+        <translation>Γενική γραμμή εργαλείων</translation>
+    </message>
+    <message>
+        <source>Bodies Toolbar</source>
+        <translation>Γραμμή εργαλείων σωμάτων</translation>
+    </message>
+    <message>
+        <source>Joints Toolbar</source>
+        <translation>Γραμμή εργαλείων αρθρώσεων</translation>
+    </message>
+    <message>
+        <source>Forces Toolbar</source>
+        <translation>Γραμμή εργαλείων δυνάμεων</translation>
+    </message>
+    <message>
+        <source>Boolean Toolbar</source>
+        <translation>Γραμμή εργαλείων λογικών πράξεων</translation>
+    </message>
+    <message>
+        <source>Snap Toolbar</source>
+        <translation>Γραμμή εργαλείων προσκόλλησης</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ρυθμίσεις</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Κονσόλα</translation>
+    </message>
+    <message>
+        <source>Scene Properties</source>
+        <translation>Ιδιότητες σκηνής</translation>
+    </message>
+    <message>
+        <source>Property Editor</source>
+        <translation>Επεξεργαστής ιδιοτήτων</translation>
+    </message>
+    <message>
+        <source>Quick Load</source>
+        <translation>Γρήγορη φόρτωση</translation>
+    </message>
+    <message>
+        <source>Commands History</source>
+        <translation>Ιστορικό εντολών</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Αρχείο</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Επεξεργασία</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Προβολή</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Ζουμ</translation>
+    </message>
+    <message>
+        <source>Toolbars</source>
+        <translation>Γραμμές εργαλείων</translation>
+    </message>
+    <message>
+        <source>Dock Widgets</source>
+        <translation>Προσαρτώμενα παράθυρα</translation>
+    </message>
+    <message>
+        <source>Perspectives</source>
+        <translation>Προοπτικές</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Βοήθεια</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Έτοιμο</translation>
+    </message>
+    <message>
+        <source>Action Context Toolbar</source>
+        <translation>Γραμμή εργαλείων περιβάλλοντος εργαλείου</translation>
+    </message>
+    <message>
+        <source>New file created</source>
+        <translation>Δημιουργήθηκε νέο αρχείο</translation>
+    </message>
+    <message>
+        <source>File saved (%1)</source>
+        <translation>Το αρχείο αποθηκεύτηκε (%1)</translation>
+    </message>
+    <message>
+        <source>File loaded (%1)</source>
+        <translation>Το αρχείο φορτώθηκε (%1)</translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 - %2</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Φόρτωση</translation>
+    </message>
+    <message>
+        <source>*.script</source>
+        <translation>*.script</translation>
+    </message>
+</context>
+<context>
+    <name>PlayPauseAction</name>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Έναρξη/Παύση</translation>
+    </message>
+</context>
+<context>
+    <name>PolygonAction</name>
+    <message>
+        <source>Create Polygon</source>
+        <translation>Δημιουργία πολυγώνου</translation>
     </message>
 </context>
 <context>
@@ -48,6 +590,20 @@
     <message>
         <source>Clipper Failed...</source>
         <translation>Αποτυχία του Clipper...</translation>
+    </message>
+</context>
+<context>
+    <name>PrismaticJointAction</name>
+    <message>
+        <source>Create Prismatic Joint</source>
+        <translation>Δημιουργία πρισματικής άρθρωσης</translation>
+    </message>
+</context>
+<context>
+    <name>PulleyJointAction</name>
+    <message>
+        <source>Create Pulley Joint</source>
+        <translation>Δημιουργία άρθρωσης τροχαλίας</translation>
     </message>
 </context>
 <context>
@@ -59,6 +615,103 @@
     <message>
         <source>Made by the Brivane Project</source>
         <translation>Δημιουργήθηκε από το Έργο Brivane</translation>
+    </message>
+    <message>
+        <source>Balloon</source>
+        <translation>Μπαλόνι</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Κύκλος</translation>
+    </message>
+    <message>
+        <source>Distance Joint</source>
+        <translation>Άρθρωση απόστασης</translation>
+    </message>
+    <message>
+        <source>Linear Impulse</source>
+        <translation>Γραμμική ώθηση</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Έναρξη</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Πολύγωνο</translation>
+    </message>
+    <message>
+        <source>Prismatic Joint</source>
+        <translation>Πρισματική άρθρωση</translation>
+    </message>
+    <message>
+        <source>Pulley Joint</source>
+        <translation>Άρθρωση τροχαλίας</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Ορθογώνιο</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Αφαίρεση</translation>
+    </message>
+    <message>
+        <source>Revolute Joint</source>
+        <translation>Περιστροφική άρθρωση</translation>
+    </message>
+    <message>
+        <source>Spring Force</source>
+        <translation>Δύναμη ελατηρίου</translation>
+    </message>
+</context>
+<context>
+    <name>RectangleAction</name>
+    <message>
+        <source>Create Rectangle</source>
+        <translation>Δημιουργία ορθογωνίου</translation>
+    </message>
+    <message>
+        <source>width=%1
+height=%2</source>
+        <translation>πλάτος=%1
+ύψος=%2</translation>
+    </message>
+</context>
+<context>
+    <name>RevoluteJointAction</name>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>Δημιουργία περιστροφικής άρθρωσης</translation>
+    </message>
+</context>
+<context>
+    <name>SelectAction</name>
+    <message>
+        <source>Select/Move</source>
+        <translation>Επιλογή/Μετακίνηση</translation>
+    </message>
+</context>
+<context>
+    <name>SpringForceAction</name>
+    <message>
+        <source>Create Spring</source>
+        <translation>Δημιουργία ελατηρίου</translation>
+    </message>
+</context>
+<context>
+    <name>StatusBar</name>
+    <message>
+        <source>&lt;B&gt;FPS&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;FPS&lt;/B&gt;: %1</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;X&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;X&lt;/B&gt;: %1</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;Y&lt;/B&gt;: %1</translation>
     </message>
 </context>
 <context>

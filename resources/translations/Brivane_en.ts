@@ -37,9 +37,551 @@
     </message>
 </context>
 <context>
+    <name>BalloonAction</name>
+    <message>
+        <source>Create Balloon</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CircleAction</name>
+    <message>
+        <source>Create Circle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>radius=%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DistanceJointAction</name>
+    <message>
+        <source>Create Distance Joint</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>GraphicsView</name>
     <message>
         <source>OpenGL is not available here; the view draws without it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>New Scene</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creates a new scene</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Scene</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves current scene</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Scene As...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves current scene as</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load Scene...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loads a scene</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Upload Scene...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uploads current scene to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Download Scenes...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Downloads scenes from %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exports current scene as an image</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Evaluate Script...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Evaluates a .script file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quits the application</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selects all items of the scene</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zooms in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zooms out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom Extents</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zooms in or out to fit the extents of the scene</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows all toolbars</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hides all toolbars</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows all dock widgets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hides all dock widgets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fullscreen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Toggles fullscreen mode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the application&apos;s help file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the application&apos;s About box</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About Qt...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the Qt library&apos;s About box</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Starts/Pauses the simulation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select/Move</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selects and/or moves an item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removes an item or a selection of items from the scene</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Explode Item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Explodes an item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Erase Item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Erases parts of an item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create Camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creates a camera that follows an item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create Tracer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creates a tracer that follows an item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shoot Item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shoots an item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create Plot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creates a plot for a given item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create Rectangle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creates a rectangle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create Circle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creates a circle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create Polygon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creates a polygon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create Balloon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creates a balloon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create freehand shape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Freehand drawing of random shapes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create Chain</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creates a chain</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create Rope</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creates a rope</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creates items from text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create Gear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creates a gear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create Image</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creates a shape based on the outline of a (png) image</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create Distance Joint</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creates a distance joint between two items (or an item and the background)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creates a revolute joint between two items (or an item and the background)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create Prismatic Joint</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creates a prismatic joint between two items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create Pulley Joint</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creates a pulley joint between two items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create Spring</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creates a spring between two items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Union</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creates an item from the union of two other items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creates an item from the difference of two other items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Intersection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creates an item from the intersection of two other items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>General Toolbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bodies Toolbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Joints Toolbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forces Toolbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Boolean Toolbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Snap Toolbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scene Properties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Property Editor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quick Load</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Commands History</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Toolbars</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dock Widgets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Perspectives</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Action Context Toolbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New file created</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File saved (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File loaded (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>*.script</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PlayPauseAction</name>
+    <message>
+        <source>Play/Pause</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PolygonAction</name>
+    <message>
+        <source>Create Polygon</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -51,6 +593,20 @@
     </message>
 </context>
 <context>
+    <name>PrismaticJointAction</name>
+    <message>
+        <source>Create Prismatic Joint</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PulleyJointAction</name>
+    <message>
+        <source>Create Pulley Joint</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Version: %1</source>
@@ -58,6 +614,102 @@
     </message>
     <message>
         <source>Made by the Brivane Project</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Balloon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Distance Joint</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Linear Impulse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prismatic Joint</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pulley Joint</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Revolute Joint</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spring Force</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RectangleAction</name>
+    <message>
+        <source>Create Rectangle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>width=%1
+height=%2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RevoluteJointAction</name>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SelectAction</name>
+    <message>
+        <source>Select/Move</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SpringForceAction</name>
+    <message>
+        <source>Create Spring</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>StatusBar</name>
+    <message>
+        <source>&lt;B&gt;FPS&lt;/B&gt;: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;X&lt;/B&gt;: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -37,10 +37,552 @@
     </message>
 </context>
 <context>
+    <name>BalloonAction</name>
+    <message>
+        <source>Create Balloon</source>
+        <translation>Crear globo</translation>
+    </message>
+</context>
+<context>
+    <name>CircleAction</name>
+    <message>
+        <source>Create Circle</source>
+        <translation>Crear círculo</translation>
+    </message>
+    <message>
+        <source>radius=%1</source>
+        <translation>radio=%1</translation>
+    </message>
+</context>
+<context>
+    <name>DistanceJointAction</name>
+    <message>
+        <source>Create Distance Joint</source>
+        <translation>Crear articulación de distancia</translation>
+    </message>
+</context>
+<context>
     <name>GraphicsView</name>
     <message>
         <source>OpenGL is not available here; the view draws without it.</source>
         <translation>OpenGL no está disponible aquí; la vista se dibuja sin él.</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>New Scene</source>
+        <translation>Nueva escena</translation>
+    </message>
+    <message>
+        <source>Creates a new scene</source>
+        <translation>Crea una escena nueva</translation>
+    </message>
+    <message>
+        <source>Save Scene</source>
+        <translation>Guardar escena</translation>
+    </message>
+    <message>
+        <source>Saves current scene</source>
+        <translation>Guarda la escena actual</translation>
+    </message>
+    <message>
+        <source>Save Scene As...</source>
+        <translation>Guardar escena como...</translation>
+    </message>
+    <message>
+        <source>Saves current scene as</source>
+        <translation>Guarda la escena actual con otro nombre</translation>
+    </message>
+    <message>
+        <source>Load Scene...</source>
+        <translation>Cargar escena...</translation>
+    </message>
+    <message>
+        <source>Loads a scene</source>
+        <translation>Carga una escena</translation>
+    </message>
+    <message>
+        <source>Upload Scene...</source>
+        <translation>Subir escena...</translation>
+    </message>
+    <message>
+        <source>Uploads current scene to %1</source>
+        <translation>Sube la escena actual a %1</translation>
+    </message>
+    <message>
+        <source>Download Scenes...</source>
+        <translation>Descargar escenas...</translation>
+    </message>
+    <message>
+        <source>Downloads scenes from %1</source>
+        <translation>Descarga escenas desde %1</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Exportar...</translation>
+    </message>
+    <message>
+        <source>Exports current scene as an image</source>
+        <translation>Exporta la escena actual como imagen</translation>
+    </message>
+    <message>
+        <source>Evaluate Script...</source>
+        <translation>Ejecutar script...</translation>
+    </message>
+    <message>
+        <source>Evaluates a .script file</source>
+        <translation>Ejecuta un archivo .script</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <source>Quits the application</source>
+        <translation>Cierra la aplicación</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>Selects all items of the scene</source>
+        <translation>Selecciona todos los elementos de la escena</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>Acercar</translation>
+    </message>
+    <message>
+        <source>Zooms in</source>
+        <translation>Acerca la vista</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Alejar</translation>
+    </message>
+    <message>
+        <source>Zooms out</source>
+        <translation>Aleja la vista</translation>
+    </message>
+    <message>
+        <source>Zoom Extents</source>
+        <translation>Ajustar a la escena</translation>
+    </message>
+    <message>
+        <source>Zooms in or out to fit the extents of the scene</source>
+        <translation>Acerca o aleja la vista para mostrar toda la escena</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Mostrar todo</translation>
+    </message>
+    <message>
+        <source>Shows all toolbars</source>
+        <translation>Muestra todas las barras de herramientas</translation>
+    </message>
+    <message>
+        <source>Hide all</source>
+        <translation>Ocultar todo</translation>
+    </message>
+    <message>
+        <source>Hides all toolbars</source>
+        <translation>Oculta todas las barras de herramientas</translation>
+    </message>
+    <message>
+        <source>Shows all dock widgets</source>
+        <translation>Muestra todos los paneles acoplables</translation>
+    </message>
+    <message>
+        <source>Hides all dock widgets</source>
+        <translation>Oculta todos los paneles acoplables</translation>
+    </message>
+    <message>
+        <source>Fullscreen</source>
+        <translation>Pantalla completa</translation>
+    </message>
+    <message>
+        <source>Toggles fullscreen mode</source>
+        <translation>Activa o desactiva el modo de pantalla completa</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Shows the application&apos;s help file</source>
+        <translation>Muestra el archivo de ayuda de la aplicación</translation>
+    </message>
+    <message>
+        <source>About...</source>
+        <translation>Acerca de...</translation>
+    </message>
+    <message>
+        <source>Shows the application&apos;s About box</source>
+        <translation>Muestra el cuadro «Acerca de» de la aplicación</translation>
+    </message>
+    <message>
+        <source>About Qt...</source>
+        <translation>Acerca de Qt...</translation>
+    </message>
+    <message>
+        <source>Shows the Qt library&apos;s About box</source>
+        <translation>Muestra el cuadro «Acerca de» de la biblioteca Qt</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Iniciar/Pausar</translation>
+    </message>
+    <message>
+        <source>Starts/Pauses the simulation</source>
+        <translation>Inicia o pausa la simulación</translation>
+    </message>
+    <message>
+        <source>Select/Move</source>
+        <translation>Seleccionar/Mover</translation>
+    </message>
+    <message>
+        <source>Selects and/or moves an item</source>
+        <translation>Selecciona y/o mueve un elemento</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Removes an item or a selection of items from the scene</source>
+        <translation>Elimina un elemento o una selección de elementos de la escena</translation>
+    </message>
+    <message>
+        <source>Explode Item</source>
+        <translation>Explotar elemento</translation>
+    </message>
+    <message>
+        <source>Explodes an item</source>
+        <translation>Hace explotar un elemento</translation>
+    </message>
+    <message>
+        <source>Erase Item</source>
+        <translation>Borrar elemento</translation>
+    </message>
+    <message>
+        <source>Erases parts of an item</source>
+        <translation>Borra partes de un elemento</translation>
+    </message>
+    <message>
+        <source>Create Camera</source>
+        <translation>Crear cámara</translation>
+    </message>
+    <message>
+        <source>Creates a camera that follows an item</source>
+        <translation>Crea una cámara que sigue a un elemento</translation>
+    </message>
+    <message>
+        <source>Create Tracer</source>
+        <translation>Crear trazador</translation>
+    </message>
+    <message>
+        <source>Creates a tracer that follows an item</source>
+        <translation>Crea un trazador que sigue a un elemento</translation>
+    </message>
+    <message>
+        <source>Shoot Item</source>
+        <translation>Disparar elemento</translation>
+    </message>
+    <message>
+        <source>Shoots an item</source>
+        <translation>Dispara un elemento</translation>
+    </message>
+    <message>
+        <source>Create Plot</source>
+        <translation>Crear gráfica</translation>
+    </message>
+    <message>
+        <source>Creates a plot for a given item</source>
+        <translation>Crea una gráfica para un elemento dado</translation>
+    </message>
+    <message>
+        <source>Create Rectangle</source>
+        <translation>Crear rectángulo</translation>
+    </message>
+    <message>
+        <source>Creates a rectangle</source>
+        <translation>Crea un rectángulo</translation>
+    </message>
+    <message>
+        <source>Create Circle</source>
+        <translation>Crear círculo</translation>
+    </message>
+    <message>
+        <source>Creates a circle</source>
+        <translation>Crea un círculo</translation>
+    </message>
+    <message>
+        <source>Create Polygon</source>
+        <translation>Crear polígono</translation>
+    </message>
+    <message>
+        <source>Creates a polygon</source>
+        <translation>Crea un polígono</translation>
+    </message>
+    <message>
+        <source>Create Balloon</source>
+        <translation>Crear globo</translation>
+    </message>
+    <message>
+        <source>Creates a balloon</source>
+        <translation>Crea un globo</translation>
+    </message>
+    <message>
+        <source>Create freehand shape</source>
+        <translation>Crear forma a mano alzada</translation>
+    </message>
+    <message>
+        <source>Freehand drawing of random shapes</source>
+        <translation>Dibujo a mano alzada de formas libres</translation>
+    </message>
+    <message>
+        <source>Create Chain</source>
+        <translation>Crear cadena</translation>
+    </message>
+    <message>
+        <source>Creates a chain</source>
+        <translation>Crea una cadena</translation>
+    </message>
+    <message>
+        <source>Create Rope</source>
+        <translation>Crear cuerda</translation>
+    </message>
+    <message>
+        <source>Creates a rope</source>
+        <translation>Crea una cuerda</translation>
+    </message>
+    <message>
+        <source>Create Text</source>
+        <translation>Crear texto</translation>
+    </message>
+    <message>
+        <source>Creates items from text</source>
+        <translation>Crea elementos a partir de un texto</translation>
+    </message>
+    <message>
+        <source>Create Gear</source>
+        <translation>Crear engranaje</translation>
+    </message>
+    <message>
+        <source>Creates a gear</source>
+        <translation>Crea un engranaje</translation>
+    </message>
+    <message>
+        <source>Create Image</source>
+        <translation>Crear desde imagen</translation>
+    </message>
+    <message>
+        <source>Creates a shape based on the outline of a (png) image</source>
+        <translation>Crea una forma a partir del contorno de una imagen (PNG)</translation>
+    </message>
+    <message>
+        <source>Create Distance Joint</source>
+        <translation>Crear articulación de distancia</translation>
+    </message>
+    <message>
+        <source>Creates a distance joint between two items (or an item and the background)</source>
+        <translation>Crea una articulación de distancia entre dos elementos (o entre un elemento y el fondo)</translation>
+    </message>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>Crear articulación de revolución</translation>
+    </message>
+    <message>
+        <source>Creates a revolute joint between two items (or an item and the background)</source>
+        <translation>Crea una articulación de revolución entre dos elementos (o entre un elemento y el fondo)</translation>
+    </message>
+    <message>
+        <source>Create Prismatic Joint</source>
+        <translation>Crear articulación prismática</translation>
+    </message>
+    <message>
+        <source>Creates a prismatic joint between two items</source>
+        <translation>Crea una articulación prismática entre dos elementos</translation>
+    </message>
+    <message>
+        <source>Create Pulley Joint</source>
+        <translation>Crear articulación de polea</translation>
+    </message>
+    <message>
+        <source>Creates a pulley joint between two items</source>
+        <translation>Crea una articulación de polea entre dos elementos</translation>
+    </message>
+    <message>
+        <source>Create Spring</source>
+        <translation>Crear resorte</translation>
+    </message>
+    <message>
+        <source>Creates a spring between two items</source>
+        <translation>Crea un resorte entre dos elementos</translation>
+    </message>
+    <message>
+        <source>Union</source>
+        <translation>Unión</translation>
+    </message>
+    <message>
+        <source>Creates an item from the union of two other items</source>
+        <translation>Crea un elemento a partir de la unión de otros dos elementos</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Diferencia</translation>
+    </message>
+    <message>
+        <source>Creates an item from the difference of two other items</source>
+        <translation>Crea un elemento a partir de la diferencia de otros dos elementos</translation>
+    </message>
+    <message>
+        <source>Intersection</source>
+        <translation>Intersección</translation>
+    </message>
+    <message>
+        <source>Creates an item from the intersection of two other items</source>
+        <translation>Crea un elemento a partir de la intersección de otros dos elementos</translation>
+    </message>
+    <message>
+        <source>General Toolbar</source>
+        <translation>Barra de herramientas general</translation>
+    </message>
+    <message>
+        <source>Bodies Toolbar</source>
+        <translation>Barra de herramientas de cuerpos</translation>
+    </message>
+    <message>
+        <source>Joints Toolbar</source>
+        <translation>Barra de herramientas de articulaciones</translation>
+    </message>
+    <message>
+        <source>Forces Toolbar</source>
+        <translation>Barra de herramientas de fuerzas</translation>
+    </message>
+    <message>
+        <source>Boolean Toolbar</source>
+        <translation>Barra de herramientas booleanas</translation>
+    </message>
+    <message>
+        <source>Snap Toolbar</source>
+        <translation>Barra de herramientas de ajuste</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Consola</translation>
+    </message>
+    <message>
+        <source>Scene Properties</source>
+        <translation>Propiedades de la escena</translation>
+    </message>
+    <message>
+        <source>Property Editor</source>
+        <translation>Editor de propiedades</translation>
+    </message>
+    <message>
+        <source>Quick Load</source>
+        <translation>Carga rápida</translation>
+    </message>
+    <message>
+        <source>Commands History</source>
+        <translation>Historial de comandos</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Toolbars</source>
+        <translation>Barras de herramientas</translation>
+    </message>
+    <message>
+        <source>Dock Widgets</source>
+        <translation>Paneles acoplables</translation>
+    </message>
+    <message>
+        <source>Perspectives</source>
+        <translation>Perspectivas</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Ay&amp;uda</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Listo</translation>
+    </message>
+    <message>
+        <source>Action Context Toolbar</source>
+        <translation>Barra de herramientas contextual</translation>
+    </message>
+    <message>
+        <source>New file created</source>
+        <translation>Nuevo archivo creado</translation>
+    </message>
+    <message>
+        <source>File saved (%1)</source>
+        <translation>Archivo guardado (%1)</translation>
+    </message>
+    <message>
+        <source>File loaded (%1)</source>
+        <translation>Archivo cargado (%1)</translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 - %2</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Cargar</translation>
+    </message>
+    <message>
+        <source>*.script</source>
+        <translation>*.script</translation>
+    </message>
+</context>
+<context>
+    <name>PlayPauseAction</name>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Iniciar/Pausar</translation>
+    </message>
+</context>
+<context>
+    <name>PolygonAction</name>
+    <message>
+        <source>Create Polygon</source>
+        <translation>Crear polígono</translation>
     </message>
 </context>
 <context>
@@ -48,6 +590,20 @@
     <message>
         <source>Clipper Failed...</source>
         <translation>Clipper ha fallado...</translation>
+    </message>
+</context>
+<context>
+    <name>PrismaticJointAction</name>
+    <message>
+        <source>Create Prismatic Joint</source>
+        <translation>Crear articulación prismática</translation>
+    </message>
+</context>
+<context>
+    <name>PulleyJointAction</name>
+    <message>
+        <source>Create Pulley Joint</source>
+        <translation>Crear articulación de polea</translation>
     </message>
 </context>
 <context>
@@ -59,6 +615,103 @@
     <message>
         <source>Made by the Brivane Project</source>
         <translation>Creado por el Proyecto Brivane</translation>
+    </message>
+    <message>
+        <source>Balloon</source>
+        <translation>Globo</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Círculo</translation>
+    </message>
+    <message>
+        <source>Distance Joint</source>
+        <translation>Articulación de distancia</translation>
+    </message>
+    <message>
+        <source>Linear Impulse</source>
+        <translation>Impulso lineal</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Iniciar</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Polígono</translation>
+    </message>
+    <message>
+        <source>Prismatic Joint</source>
+        <translation>Articulación prismática</translation>
+    </message>
+    <message>
+        <source>Pulley Joint</source>
+        <translation>Articulación de polea</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rectángulo</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Revolute Joint</source>
+        <translation>Articulación de revolución</translation>
+    </message>
+    <message>
+        <source>Spring Force</source>
+        <translation>Fuerza de resorte</translation>
+    </message>
+</context>
+<context>
+    <name>RectangleAction</name>
+    <message>
+        <source>Create Rectangle</source>
+        <translation>Crear rectángulo</translation>
+    </message>
+    <message>
+        <source>width=%1
+height=%2</source>
+        <translation>ancho=%1
+alto=%2</translation>
+    </message>
+</context>
+<context>
+    <name>RevoluteJointAction</name>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>Crear articulación de revolución</translation>
+    </message>
+</context>
+<context>
+    <name>SelectAction</name>
+    <message>
+        <source>Select/Move</source>
+        <translation>Seleccionar/Mover</translation>
+    </message>
+</context>
+<context>
+    <name>SpringForceAction</name>
+    <message>
+        <source>Create Spring</source>
+        <translation>Crear resorte</translation>
+    </message>
+</context>
+<context>
+    <name>StatusBar</name>
+    <message>
+        <source>&lt;B&gt;FPS&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;FPS&lt;/B&gt;: %1</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;X&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;X&lt;/B&gt;: %1</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;Y&lt;/B&gt;: %1</translation>
     </message>
 </context>
 <context>

@@ -33,14 +33,556 @@
     </message>
     <message>
         <source>Supported OpenGL Versions:</source>
-        <translation>Versions d'OpenGL prises en charge :</translation>
+        <translation>Versions d&apos;OpenGL prises en charge :</translation>
+    </message>
+</context>
+<context>
+    <name>BalloonAction</name>
+    <message>
+        <source>Create Balloon</source>
+        <translation>Créer un ballon</translation>
+    </message>
+</context>
+<context>
+    <name>CircleAction</name>
+    <message>
+        <source>Create Circle</source>
+        <translation>Créer un cercle</translation>
+    </message>
+    <message>
+        <source>radius=%1</source>
+        <translation>rayon=%1</translation>
+    </message>
+</context>
+<context>
+    <name>DistanceJointAction</name>
+    <message>
+        <source>Create Distance Joint</source>
+        <translation>Créer une liaison de distance</translation>
     </message>
 </context>
 <context>
     <name>GraphicsView</name>
     <message>
         <source>OpenGL is not available here; the view draws without it.</source>
-        <translation>OpenGL n'est pas disponible ici ; la vue est dessinée sans OpenGL.</translation>
+        <translation>OpenGL n&apos;est pas disponible ici ; la vue est dessinée sans OpenGL.</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>New Scene</source>
+        <translation>Nouvelle scène</translation>
+    </message>
+    <message>
+        <source>Creates a new scene</source>
+        <translation>Crée une nouvelle scène</translation>
+    </message>
+    <message>
+        <source>Save Scene</source>
+        <translation>Enregistrer la scène</translation>
+    </message>
+    <message>
+        <source>Saves current scene</source>
+        <translation>Enregistre la scène actuelle</translation>
+    </message>
+    <message>
+        <source>Save Scene As...</source>
+        <translation>Enregistrer la scène sous...</translation>
+    </message>
+    <message>
+        <source>Saves current scene as</source>
+        <translation>Enregistre la scène actuelle sous un autre nom</translation>
+    </message>
+    <message>
+        <source>Load Scene...</source>
+        <translation>Charger une scène...</translation>
+    </message>
+    <message>
+        <source>Loads a scene</source>
+        <translation>Charge une scène</translation>
+    </message>
+    <message>
+        <source>Upload Scene...</source>
+        <translation>Téléverser la scène...</translation>
+    </message>
+    <message>
+        <source>Uploads current scene to %1</source>
+        <translation>Téléverse la scène actuelle vers %1</translation>
+    </message>
+    <message>
+        <source>Download Scenes...</source>
+        <translation>Télécharger des scènes...</translation>
+    </message>
+    <message>
+        <source>Downloads scenes from %1</source>
+        <translation>Télécharge des scènes depuis %1</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Exporter...</translation>
+    </message>
+    <message>
+        <source>Exports current scene as an image</source>
+        <translation>Exporte la scène actuelle sous forme d&apos;image</translation>
+    </message>
+    <message>
+        <source>Evaluate Script...</source>
+        <translation>Exécuter un script...</translation>
+    </message>
+    <message>
+        <source>Evaluates a .script file</source>
+        <translation>Exécute un fichier .script</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Quits the application</source>
+        <translation>Quitte l&apos;application</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Selects all items of the scene</source>
+        <translation>Sélectionne tous les objets de la scène</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>Zoom avant</translation>
+    </message>
+    <message>
+        <source>Zooms in</source>
+        <translation>Effectue un zoom avant</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Zoom arrière</translation>
+    </message>
+    <message>
+        <source>Zooms out</source>
+        <translation>Effectue un zoom arrière</translation>
+    </message>
+    <message>
+        <source>Zoom Extents</source>
+        <translation>Zoom sur l&apos;ensemble</translation>
+    </message>
+    <message>
+        <source>Zooms in or out to fit the extents of the scene</source>
+        <translation>Effectue un zoom avant ou arrière pour afficher toute la scène</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Tout afficher</translation>
+    </message>
+    <message>
+        <source>Shows all toolbars</source>
+        <translation>Affiche toutes les barres d&apos;outils</translation>
+    </message>
+    <message>
+        <source>Hide all</source>
+        <translation>Tout masquer</translation>
+    </message>
+    <message>
+        <source>Hides all toolbars</source>
+        <translation>Masque toutes les barres d&apos;outils</translation>
+    </message>
+    <message>
+        <source>Shows all dock widgets</source>
+        <translation>Affiche tous les panneaux ancrables</translation>
+    </message>
+    <message>
+        <source>Hides all dock widgets</source>
+        <translation>Masque tous les panneaux ancrables</translation>
+    </message>
+    <message>
+        <source>Fullscreen</source>
+        <translation>Plein écran</translation>
+    </message>
+    <message>
+        <source>Toggles fullscreen mode</source>
+        <translation>Active ou désactive le mode plein écran</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Shows the application&apos;s help file</source>
+        <translation>Affiche le fichier d&apos;aide de l&apos;application</translation>
+    </message>
+    <message>
+        <source>About...</source>
+        <translation>À propos...</translation>
+    </message>
+    <message>
+        <source>Shows the application&apos;s About box</source>
+        <translation>Affiche la boîte « À propos » de l&apos;application</translation>
+    </message>
+    <message>
+        <source>About Qt...</source>
+        <translation>À propos de Qt...</translation>
+    </message>
+    <message>
+        <source>Shows the Qt library&apos;s About box</source>
+        <translation>Affiche la boîte « À propos » de la bibliothèque Qt</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Lecture/Pause</translation>
+    </message>
+    <message>
+        <source>Starts/Pauses the simulation</source>
+        <translation>Démarre ou met en pause la simulation</translation>
+    </message>
+    <message>
+        <source>Select/Move</source>
+        <translation>Sélectionner/Déplacer</translation>
+    </message>
+    <message>
+        <source>Selects and/or moves an item</source>
+        <translation>Sélectionne et/ou déplace un objet</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Removes an item or a selection of items from the scene</source>
+        <translation>Supprime un objet ou une sélection d&apos;objets de la scène</translation>
+    </message>
+    <message>
+        <source>Explode Item</source>
+        <translation>Faire exploser un objet</translation>
+    </message>
+    <message>
+        <source>Explodes an item</source>
+        <translation>Fait exploser un objet</translation>
+    </message>
+    <message>
+        <source>Erase Item</source>
+        <translation>Gommer un objet</translation>
+    </message>
+    <message>
+        <source>Erases parts of an item</source>
+        <translation>Efface des parties d&apos;un objet</translation>
+    </message>
+    <message>
+        <source>Create Camera</source>
+        <translation>Créer une caméra</translation>
+    </message>
+    <message>
+        <source>Creates a camera that follows an item</source>
+        <translation>Crée une caméra qui suit un objet</translation>
+    </message>
+    <message>
+        <source>Create Tracer</source>
+        <translation>Créer un traceur</translation>
+    </message>
+    <message>
+        <source>Creates a tracer that follows an item</source>
+        <translation>Crée un traceur qui suit un objet</translation>
+    </message>
+    <message>
+        <source>Shoot Item</source>
+        <translation>Tirer un objet</translation>
+    </message>
+    <message>
+        <source>Shoots an item</source>
+        <translation>Tire un objet</translation>
+    </message>
+    <message>
+        <source>Create Plot</source>
+        <translation>Créer un graphique</translation>
+    </message>
+    <message>
+        <source>Creates a plot for a given item</source>
+        <translation>Crée un graphique pour un objet donné</translation>
+    </message>
+    <message>
+        <source>Create Rectangle</source>
+        <translation>Créer un rectangle</translation>
+    </message>
+    <message>
+        <source>Creates a rectangle</source>
+        <translation>Crée un rectangle</translation>
+    </message>
+    <message>
+        <source>Create Circle</source>
+        <translation>Créer un cercle</translation>
+    </message>
+    <message>
+        <source>Creates a circle</source>
+        <translation>Crée un cercle</translation>
+    </message>
+    <message>
+        <source>Create Polygon</source>
+        <translation>Créer un polygone</translation>
+    </message>
+    <message>
+        <source>Creates a polygon</source>
+        <translation>Crée un polygone</translation>
+    </message>
+    <message>
+        <source>Create Balloon</source>
+        <translation>Créer un ballon</translation>
+    </message>
+    <message>
+        <source>Creates a balloon</source>
+        <translation>Crée un ballon</translation>
+    </message>
+    <message>
+        <source>Create freehand shape</source>
+        <translation>Créer une forme à main levée</translation>
+    </message>
+    <message>
+        <source>Freehand drawing of random shapes</source>
+        <translation>Dessin à main levée de formes quelconques</translation>
+    </message>
+    <message>
+        <source>Create Chain</source>
+        <translation>Créer une chaîne</translation>
+    </message>
+    <message>
+        <source>Creates a chain</source>
+        <translation>Crée une chaîne</translation>
+    </message>
+    <message>
+        <source>Create Rope</source>
+        <translation>Créer une corde</translation>
+    </message>
+    <message>
+        <source>Creates a rope</source>
+        <translation>Crée une corde</translation>
+    </message>
+    <message>
+        <source>Create Text</source>
+        <translation>Créer un texte</translation>
+    </message>
+    <message>
+        <source>Creates items from text</source>
+        <translation>Crée des objets à partir d&apos;un texte</translation>
+    </message>
+    <message>
+        <source>Create Gear</source>
+        <translation>Créer un engrenage</translation>
+    </message>
+    <message>
+        <source>Creates a gear</source>
+        <translation>Crée un engrenage</translation>
+    </message>
+    <message>
+        <source>Create Image</source>
+        <translation>Créer depuis une image</translation>
+    </message>
+    <message>
+        <source>Creates a shape based on the outline of a (png) image</source>
+        <translation>Crée une forme d&apos;après le contour d&apos;une image (PNG)</translation>
+    </message>
+    <message>
+        <source>Create Distance Joint</source>
+        <translation>Créer une liaison de distance</translation>
+    </message>
+    <message>
+        <source>Creates a distance joint between two items (or an item and the background)</source>
+        <translation>Crée une liaison de distance entre deux objets (ou entre un objet et l&apos;arrière-plan)</translation>
+    </message>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>Créer une liaison pivot</translation>
+    </message>
+    <message>
+        <source>Creates a revolute joint between two items (or an item and the background)</source>
+        <translation>Crée une liaison pivot entre deux objets (ou entre un objet et l&apos;arrière-plan)</translation>
+    </message>
+    <message>
+        <source>Create Prismatic Joint</source>
+        <translation>Créer une liaison glissière</translation>
+    </message>
+    <message>
+        <source>Creates a prismatic joint between two items</source>
+        <translation>Crée une liaison glissière entre deux objets</translation>
+    </message>
+    <message>
+        <source>Create Pulley Joint</source>
+        <translation>Créer une liaison poulie</translation>
+    </message>
+    <message>
+        <source>Creates a pulley joint between two items</source>
+        <translation>Crée une liaison poulie entre deux objets</translation>
+    </message>
+    <message>
+        <source>Create Spring</source>
+        <translation>Créer un ressort</translation>
+    </message>
+    <message>
+        <source>Creates a spring between two items</source>
+        <translation>Crée un ressort entre deux objets</translation>
+    </message>
+    <message>
+        <source>Union</source>
+        <translation>Union</translation>
+    </message>
+    <message>
+        <source>Creates an item from the union of two other items</source>
+        <translation>Crée un objet à partir de l&apos;union de deux autres objets</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Différence</translation>
+    </message>
+    <message>
+        <source>Creates an item from the difference of two other items</source>
+        <translation>Crée un objet à partir de la différence de deux autres objets</translation>
+    </message>
+    <message>
+        <source>Intersection</source>
+        <translation>Intersection</translation>
+    </message>
+    <message>
+        <source>Creates an item from the intersection of two other items</source>
+        <translation>Crée un objet à partir de l&apos;intersection de deux autres objets</translation>
+    </message>
+    <message>
+        <source>General Toolbar</source>
+        <translation>Barre d&apos;outils générale</translation>
+    </message>
+    <message>
+        <source>Bodies Toolbar</source>
+        <translation>Barre d&apos;outils des corps</translation>
+    </message>
+    <message>
+        <source>Joints Toolbar</source>
+        <translation>Barre d&apos;outils des liaisons</translation>
+    </message>
+    <message>
+        <source>Forces Toolbar</source>
+        <translation>Barre d&apos;outils des forces</translation>
+    </message>
+    <message>
+        <source>Boolean Toolbar</source>
+        <translation>Barre d&apos;outils booléenne</translation>
+    </message>
+    <message>
+        <source>Snap Toolbar</source>
+        <translation>Barre d&apos;outils d&apos;aimantation</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Console</translation>
+    </message>
+    <message>
+        <source>Scene Properties</source>
+        <translation>Propriétés de la scène</translation>
+    </message>
+    <message>
+        <source>Property Editor</source>
+        <translation>Éditeur de propriétés</translation>
+    </message>
+    <message>
+        <source>Quick Load</source>
+        <translation>Chargement rapide</translation>
+    </message>
+    <message>
+        <source>Commands History</source>
+        <translation>Historique des commandes</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Édition</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Toolbars</source>
+        <translation>Barres d&apos;outils</translation>
+    </message>
+    <message>
+        <source>Dock Widgets</source>
+        <translation>Panneaux ancrables</translation>
+    </message>
+    <message>
+        <source>Perspectives</source>
+        <translation>Perspectives</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Aid&amp;e</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Prêt</translation>
+    </message>
+    <message>
+        <source>Action Context Toolbar</source>
+        <translation>Barre d&apos;outils contextuelle de l&apos;outil</translation>
+    </message>
+    <message>
+        <source>New file created</source>
+        <translation>Nouveau fichier créé</translation>
+    </message>
+    <message>
+        <source>File saved (%1)</source>
+        <translation>Fichier enregistré (%1)</translation>
+    </message>
+    <message>
+        <source>File loaded (%1)</source>
+        <translation>Fichier chargé (%1)</translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 - %2</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Charger</translation>
+    </message>
+    <message>
+        <source>*.script</source>
+        <translation>*.script</translation>
+    </message>
+</context>
+<context>
+    <name>PlayPauseAction</name>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Lecture/Pause</translation>
+    </message>
+</context>
+<context>
+    <name>PolygonAction</name>
+    <message>
+        <source>Create Polygon</source>
+        <translation>Créer un polygone</translation>
     </message>
 </context>
 <context>
@@ -48,6 +590,20 @@
     <message>
         <source>Clipper Failed...</source>
         <translation>Échec de Clipper...</translation>
+    </message>
+</context>
+<context>
+    <name>PrismaticJointAction</name>
+    <message>
+        <source>Create Prismatic Joint</source>
+        <translation>Créer une liaison glissière</translation>
+    </message>
+</context>
+<context>
+    <name>PulleyJointAction</name>
+    <message>
+        <source>Create Pulley Joint</source>
+        <translation>Créer une liaison poulie</translation>
     </message>
 </context>
 <context>
@@ -59,6 +615,103 @@
     <message>
         <source>Made by the Brivane Project</source>
         <translation>Réalisé par le projet Brivane</translation>
+    </message>
+    <message>
+        <source>Balloon</source>
+        <translation>Ballon</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Cercle</translation>
+    </message>
+    <message>
+        <source>Distance Joint</source>
+        <translation>Liaison de distance</translation>
+    </message>
+    <message>
+        <source>Linear Impulse</source>
+        <translation>Impulsion linéaire</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Lecture</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Polygone</translation>
+    </message>
+    <message>
+        <source>Prismatic Joint</source>
+        <translation>Liaison glissière</translation>
+    </message>
+    <message>
+        <source>Pulley Joint</source>
+        <translation>Liaison poulie</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rectangle</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Revolute Joint</source>
+        <translation>Liaison pivot</translation>
+    </message>
+    <message>
+        <source>Spring Force</source>
+        <translation>Force de ressort</translation>
+    </message>
+</context>
+<context>
+    <name>RectangleAction</name>
+    <message>
+        <source>Create Rectangle</source>
+        <translation>Créer un rectangle</translation>
+    </message>
+    <message>
+        <source>width=%1
+height=%2</source>
+        <translation>largeur=%1
+hauteur=%2</translation>
+    </message>
+</context>
+<context>
+    <name>RevoluteJointAction</name>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>Créer une liaison pivot</translation>
+    </message>
+</context>
+<context>
+    <name>SelectAction</name>
+    <message>
+        <source>Select/Move</source>
+        <translation>Sélectionner/Déplacer</translation>
+    </message>
+</context>
+<context>
+    <name>SpringForceAction</name>
+    <message>
+        <source>Create Spring</source>
+        <translation>Créer un ressort</translation>
+    </message>
+</context>
+<context>
+    <name>StatusBar</name>
+    <message>
+        <source>&lt;B&gt;FPS&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;FPS&lt;/B&gt; : %1</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;X&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;X&lt;/B&gt; : %1</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;Y&lt;/B&gt; : %1</translation>
     </message>
 </context>
 <context>

@@ -37,10 +37,552 @@
     </message>
 </context>
 <context>
+    <name>BalloonAction</name>
+    <message>
+        <source>Create Balloon</source>
+        <translation>Buat Balon</translation>
+    </message>
+</context>
+<context>
+    <name>CircleAction</name>
+    <message>
+        <source>Create Circle</source>
+        <translation>Buat Lingkaran</translation>
+    </message>
+    <message>
+        <source>radius=%1</source>
+        <translation>jari-jari=%1</translation>
+    </message>
+</context>
+<context>
+    <name>DistanceJointAction</name>
+    <message>
+        <source>Create Distance Joint</source>
+        <translation>Buat Sambungan Jarak</translation>
+    </message>
+</context>
+<context>
     <name>GraphicsView</name>
     <message>
         <source>OpenGL is not available here; the view draws without it.</source>
         <translation>OpenGL tidak tersedia di sini; tampilan digambar tanpa OpenGL.</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>New Scene</source>
+        <translation>Adegan Baru</translation>
+    </message>
+    <message>
+        <source>Creates a new scene</source>
+        <translation>Membuat adegan baru</translation>
+    </message>
+    <message>
+        <source>Save Scene</source>
+        <translation>Simpan Adegan</translation>
+    </message>
+    <message>
+        <source>Saves current scene</source>
+        <translation>Menyimpan adegan saat ini</translation>
+    </message>
+    <message>
+        <source>Save Scene As...</source>
+        <translation>Simpan Adegan Sebagai...</translation>
+    </message>
+    <message>
+        <source>Saves current scene as</source>
+        <translation>Menyimpan adegan saat ini dengan nama lain</translation>
+    </message>
+    <message>
+        <source>Load Scene...</source>
+        <translation>Muat Adegan...</translation>
+    </message>
+    <message>
+        <source>Loads a scene</source>
+        <translation>Memuat adegan</translation>
+    </message>
+    <message>
+        <source>Upload Scene...</source>
+        <translation>Unggah Adegan...</translation>
+    </message>
+    <message>
+        <source>Uploads current scene to %1</source>
+        <translation>Mengunggah adegan saat ini ke %1</translation>
+    </message>
+    <message>
+        <source>Download Scenes...</source>
+        <translation>Unduh Adegan...</translation>
+    </message>
+    <message>
+        <source>Downloads scenes from %1</source>
+        <translation>Mengunduh adegan dari %1</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Ekspor...</translation>
+    </message>
+    <message>
+        <source>Exports current scene as an image</source>
+        <translation>Mengekspor adegan saat ini sebagai gambar</translation>
+    </message>
+    <message>
+        <source>Evaluate Script...</source>
+        <translation>Jalankan Skrip...</translation>
+    </message>
+    <message>
+        <source>Evaluates a .script file</source>
+        <translation>Menjalankan berkas .script</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Keluar</translation>
+    </message>
+    <message>
+        <source>Quits the application</source>
+        <translation>Keluar dari aplikasi</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Batalkan</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Ulangi</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Pilih Semua</translation>
+    </message>
+    <message>
+        <source>Selects all items of the scene</source>
+        <translation>Memilih semua objek dalam adegan</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>Perbesar</translation>
+    </message>
+    <message>
+        <source>Zooms in</source>
+        <translation>Memperbesar tampilan</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Perkecil</translation>
+    </message>
+    <message>
+        <source>Zooms out</source>
+        <translation>Memperkecil tampilan</translation>
+    </message>
+    <message>
+        <source>Zoom Extents</source>
+        <translation>Paskan ke Adegan</translation>
+    </message>
+    <message>
+        <source>Zooms in or out to fit the extents of the scene</source>
+        <translation>Memperbesar atau memperkecil tampilan agar seluruh adegan terlihat</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Tampilkan semua</translation>
+    </message>
+    <message>
+        <source>Shows all toolbars</source>
+        <translation>Menampilkan semua bilah alat</translation>
+    </message>
+    <message>
+        <source>Hide all</source>
+        <translation>Sembunyikan semua</translation>
+    </message>
+    <message>
+        <source>Hides all toolbars</source>
+        <translation>Menyembunyikan semua bilah alat</translation>
+    </message>
+    <message>
+        <source>Shows all dock widgets</source>
+        <translation>Menampilkan semua panel dok</translation>
+    </message>
+    <message>
+        <source>Hides all dock widgets</source>
+        <translation>Menyembunyikan semua panel dok</translation>
+    </message>
+    <message>
+        <source>Fullscreen</source>
+        <translation>Layar Penuh</translation>
+    </message>
+    <message>
+        <source>Toggles fullscreen mode</source>
+        <translation>Mengaktifkan atau menonaktifkan mode layar penuh</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Bantuan</translation>
+    </message>
+    <message>
+        <source>Shows the application&apos;s help file</source>
+        <translation>Menampilkan berkas bantuan aplikasi</translation>
+    </message>
+    <message>
+        <source>About...</source>
+        <translation>Tentang...</translation>
+    </message>
+    <message>
+        <source>Shows the application&apos;s About box</source>
+        <translation>Menampilkan kotak Tentang aplikasi</translation>
+    </message>
+    <message>
+        <source>About Qt...</source>
+        <translation>Tentang Qt...</translation>
+    </message>
+    <message>
+        <source>Shows the Qt library&apos;s About box</source>
+        <translation>Menampilkan kotak Tentang pustaka Qt</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Jalankan/Jeda</translation>
+    </message>
+    <message>
+        <source>Starts/Pauses the simulation</source>
+        <translation>Menjalankan atau menjeda simulasi</translation>
+    </message>
+    <message>
+        <source>Select/Move</source>
+        <translation>Pilih/Pindahkan</translation>
+    </message>
+    <message>
+        <source>Selects and/or moves an item</source>
+        <translation>Memilih dan/atau memindahkan objek</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Hapus</translation>
+    </message>
+    <message>
+        <source>Removes an item or a selection of items from the scene</source>
+        <translation>Menghapus objek atau pilihan objek dari adegan</translation>
+    </message>
+    <message>
+        <source>Explode Item</source>
+        <translation>Ledakkan Objek</translation>
+    </message>
+    <message>
+        <source>Explodes an item</source>
+        <translation>Meledakkan objek</translation>
+    </message>
+    <message>
+        <source>Erase Item</source>
+        <translation>Hapus Bagian Objek</translation>
+    </message>
+    <message>
+        <source>Erases parts of an item</source>
+        <translation>Menghapus bagian-bagian dari objek</translation>
+    </message>
+    <message>
+        <source>Create Camera</source>
+        <translation>Buat Kamera</translation>
+    </message>
+    <message>
+        <source>Creates a camera that follows an item</source>
+        <translation>Membuat kamera yang mengikuti objek</translation>
+    </message>
+    <message>
+        <source>Create Tracer</source>
+        <translation>Buat Pelacak Jejak</translation>
+    </message>
+    <message>
+        <source>Creates a tracer that follows an item</source>
+        <translation>Membuat pelacak jejak yang mengikuti objek</translation>
+    </message>
+    <message>
+        <source>Shoot Item</source>
+        <translation>Tembakkan Objek</translation>
+    </message>
+    <message>
+        <source>Shoots an item</source>
+        <translation>Menembakkan objek</translation>
+    </message>
+    <message>
+        <source>Create Plot</source>
+        <translation>Buat Grafik</translation>
+    </message>
+    <message>
+        <source>Creates a plot for a given item</source>
+        <translation>Membuat grafik untuk objek tertentu</translation>
+    </message>
+    <message>
+        <source>Create Rectangle</source>
+        <translation>Buat Persegi Panjang</translation>
+    </message>
+    <message>
+        <source>Creates a rectangle</source>
+        <translation>Membuat persegi panjang</translation>
+    </message>
+    <message>
+        <source>Create Circle</source>
+        <translation>Buat Lingkaran</translation>
+    </message>
+    <message>
+        <source>Creates a circle</source>
+        <translation>Membuat lingkaran</translation>
+    </message>
+    <message>
+        <source>Create Polygon</source>
+        <translation>Buat Poligon</translation>
+    </message>
+    <message>
+        <source>Creates a polygon</source>
+        <translation>Membuat poligon</translation>
+    </message>
+    <message>
+        <source>Create Balloon</source>
+        <translation>Buat Balon</translation>
+    </message>
+    <message>
+        <source>Creates a balloon</source>
+        <translation>Membuat balon</translation>
+    </message>
+    <message>
+        <source>Create freehand shape</source>
+        <translation>Buat bentuk tangan bebas</translation>
+    </message>
+    <message>
+        <source>Freehand drawing of random shapes</source>
+        <translation>Menggambar bentuk sembarang dengan tangan bebas</translation>
+    </message>
+    <message>
+        <source>Create Chain</source>
+        <translation>Buat Rantai</translation>
+    </message>
+    <message>
+        <source>Creates a chain</source>
+        <translation>Membuat rantai</translation>
+    </message>
+    <message>
+        <source>Create Rope</source>
+        <translation>Buat Tali</translation>
+    </message>
+    <message>
+        <source>Creates a rope</source>
+        <translation>Membuat tali</translation>
+    </message>
+    <message>
+        <source>Create Text</source>
+        <translation>Buat Teks</translation>
+    </message>
+    <message>
+        <source>Creates items from text</source>
+        <translation>Membuat objek dari teks</translation>
+    </message>
+    <message>
+        <source>Create Gear</source>
+        <translation>Buat Roda Gigi</translation>
+    </message>
+    <message>
+        <source>Creates a gear</source>
+        <translation>Membuat roda gigi</translation>
+    </message>
+    <message>
+        <source>Create Image</source>
+        <translation>Buat dari Gambar</translation>
+    </message>
+    <message>
+        <source>Creates a shape based on the outline of a (png) image</source>
+        <translation>Membuat bentuk berdasarkan garis luar gambar (PNG)</translation>
+    </message>
+    <message>
+        <source>Create Distance Joint</source>
+        <translation>Buat Sambungan Jarak</translation>
+    </message>
+    <message>
+        <source>Creates a distance joint between two items (or an item and the background)</source>
+        <translation>Membuat sambungan jarak antara dua objek (atau antara objek dan latar belakang)</translation>
+    </message>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>Buat Sambungan Putar</translation>
+    </message>
+    <message>
+        <source>Creates a revolute joint between two items (or an item and the background)</source>
+        <translation>Membuat sambungan putar antara dua objek (atau antara objek dan latar belakang)</translation>
+    </message>
+    <message>
+        <source>Create Prismatic Joint</source>
+        <translation>Buat Sambungan Prismatik</translation>
+    </message>
+    <message>
+        <source>Creates a prismatic joint between two items</source>
+        <translation>Membuat sambungan prismatik antara dua objek</translation>
+    </message>
+    <message>
+        <source>Create Pulley Joint</source>
+        <translation>Buat Sambungan Katrol</translation>
+    </message>
+    <message>
+        <source>Creates a pulley joint between two items</source>
+        <translation>Membuat sambungan katrol antara dua objek</translation>
+    </message>
+    <message>
+        <source>Create Spring</source>
+        <translation>Buat Pegas</translation>
+    </message>
+    <message>
+        <source>Creates a spring between two items</source>
+        <translation>Membuat pegas antara dua objek</translation>
+    </message>
+    <message>
+        <source>Union</source>
+        <translation>Gabungan</translation>
+    </message>
+    <message>
+        <source>Creates an item from the union of two other items</source>
+        <translation>Membuat objek dari gabungan dua objek lain</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Selisih</translation>
+    </message>
+    <message>
+        <source>Creates an item from the difference of two other items</source>
+        <translation>Membuat objek dari selisih dua objek lain</translation>
+    </message>
+    <message>
+        <source>Intersection</source>
+        <translation>Irisan</translation>
+    </message>
+    <message>
+        <source>Creates an item from the intersection of two other items</source>
+        <translation>Membuat objek dari irisan dua objek lain</translation>
+    </message>
+    <message>
+        <source>General Toolbar</source>
+        <translation>Bilah Alat Umum</translation>
+    </message>
+    <message>
+        <source>Bodies Toolbar</source>
+        <translation>Bilah Alat Benda</translation>
+    </message>
+    <message>
+        <source>Joints Toolbar</source>
+        <translation>Bilah Alat Sambungan</translation>
+    </message>
+    <message>
+        <source>Forces Toolbar</source>
+        <translation>Bilah Alat Gaya</translation>
+    </message>
+    <message>
+        <source>Boolean Toolbar</source>
+        <translation>Bilah Alat Boolean</translation>
+    </message>
+    <message>
+        <source>Snap Toolbar</source>
+        <translation>Bilah Alat Tambat</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Pengaturan</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Konsol</translation>
+    </message>
+    <message>
+        <source>Scene Properties</source>
+        <translation>Properti Adegan</translation>
+    </message>
+    <message>
+        <source>Property Editor</source>
+        <translation>Penyunting Properti</translation>
+    </message>
+    <message>
+        <source>Quick Load</source>
+        <translation>Muat Cepat</translation>
+    </message>
+    <message>
+        <source>Commands History</source>
+        <translation>Riwayat Perintah</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Berkas</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Sunting</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Tampilan</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Toolbars</source>
+        <translation>Bilah Alat</translation>
+    </message>
+    <message>
+        <source>Dock Widgets</source>
+        <translation>Panel Dok</translation>
+    </message>
+    <message>
+        <source>Perspectives</source>
+        <translation>Perspektif</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>B&amp;antuan</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Siap</translation>
+    </message>
+    <message>
+        <source>Action Context Toolbar</source>
+        <translation>Bilah Alat Konteks</translation>
+    </message>
+    <message>
+        <source>New file created</source>
+        <translation>Berkas baru dibuat</translation>
+    </message>
+    <message>
+        <source>File saved (%1)</source>
+        <translation>Berkas disimpan (%1)</translation>
+    </message>
+    <message>
+        <source>File loaded (%1)</source>
+        <translation>Berkas dimuat (%1)</translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 - %2</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Muat</translation>
+    </message>
+    <message>
+        <source>*.script</source>
+        <translation>*.script</translation>
+    </message>
+</context>
+<context>
+    <name>PlayPauseAction</name>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Jalankan/Jeda</translation>
+    </message>
+</context>
+<context>
+    <name>PolygonAction</name>
+    <message>
+        <source>Create Polygon</source>
+        <translation>Buat Poligon</translation>
     </message>
 </context>
 <context>
@@ -48,6 +590,20 @@
     <message>
         <source>Clipper Failed...</source>
         <translation>Clipper Gagal...</translation>
+    </message>
+</context>
+<context>
+    <name>PrismaticJointAction</name>
+    <message>
+        <source>Create Prismatic Joint</source>
+        <translation>Buat Sambungan Prismatik</translation>
+    </message>
+</context>
+<context>
+    <name>PulleyJointAction</name>
+    <message>
+        <source>Create Pulley Joint</source>
+        <translation>Buat Sambungan Katrol</translation>
     </message>
 </context>
 <context>
@@ -59,6 +615,103 @@
     <message>
         <source>Made by the Brivane Project</source>
         <translation>Dibuat oleh Proyek Brivane</translation>
+    </message>
+    <message>
+        <source>Balloon</source>
+        <translation>Balon</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Lingkaran</translation>
+    </message>
+    <message>
+        <source>Distance Joint</source>
+        <translation>Sambungan Jarak</translation>
+    </message>
+    <message>
+        <source>Linear Impulse</source>
+        <translation>Impuls Linear</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Jalankan</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Poligon</translation>
+    </message>
+    <message>
+        <source>Prismatic Joint</source>
+        <translation>Sambungan Prismatik</translation>
+    </message>
+    <message>
+        <source>Pulley Joint</source>
+        <translation>Sambungan Katrol</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Persegi Panjang</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Hapus</translation>
+    </message>
+    <message>
+        <source>Revolute Joint</source>
+        <translation>Sambungan Putar</translation>
+    </message>
+    <message>
+        <source>Spring Force</source>
+        <translation>Gaya Pegas</translation>
+    </message>
+</context>
+<context>
+    <name>RectangleAction</name>
+    <message>
+        <source>Create Rectangle</source>
+        <translation>Buat Persegi Panjang</translation>
+    </message>
+    <message>
+        <source>width=%1
+height=%2</source>
+        <translation>lebar=%1
+tinggi=%2</translation>
+    </message>
+</context>
+<context>
+    <name>RevoluteJointAction</name>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>Buat Sambungan Putar</translation>
+    </message>
+</context>
+<context>
+    <name>SelectAction</name>
+    <message>
+        <source>Select/Move</source>
+        <translation>Pilih/Pindahkan</translation>
+    </message>
+</context>
+<context>
+    <name>SpringForceAction</name>
+    <message>
+        <source>Create Spring</source>
+        <translation>Buat Pegas</translation>
+    </message>
+</context>
+<context>
+    <name>StatusBar</name>
+    <message>
+        <source>&lt;B&gt;FPS&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;FPS&lt;/B&gt;: %1</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;X&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;X&lt;/B&gt;: %1</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;Y&lt;/B&gt;: %1</translation>
     </message>
 </context>
 <context>

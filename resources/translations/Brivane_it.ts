@@ -37,10 +37,552 @@
     </message>
 </context>
 <context>
+    <name>BalloonAction</name>
+    <message>
+        <source>Create Balloon</source>
+        <translation>Crea palloncino</translation>
+    </message>
+</context>
+<context>
+    <name>CircleAction</name>
+    <message>
+        <source>Create Circle</source>
+        <translation>Crea cerchio</translation>
+    </message>
+    <message>
+        <source>radius=%1</source>
+        <translation>raggio=%1</translation>
+    </message>
+</context>
+<context>
+    <name>DistanceJointAction</name>
+    <message>
+        <source>Create Distance Joint</source>
+        <translation>Crea giunto di distanza</translation>
+    </message>
+</context>
+<context>
     <name>GraphicsView</name>
     <message>
         <source>OpenGL is not available here; the view draws without it.</source>
         <translation>OpenGL non è disponibile qui; la vista viene disegnata senza di esso.</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>New Scene</source>
+        <translation>Nuova scena</translation>
+    </message>
+    <message>
+        <source>Creates a new scene</source>
+        <translation>Crea una nuova scena</translation>
+    </message>
+    <message>
+        <source>Save Scene</source>
+        <translation>Salva scena</translation>
+    </message>
+    <message>
+        <source>Saves current scene</source>
+        <translation>Salva la scena corrente</translation>
+    </message>
+    <message>
+        <source>Save Scene As...</source>
+        <translation>Salva scena come...</translation>
+    </message>
+    <message>
+        <source>Saves current scene as</source>
+        <translation>Salva la scena corrente con un altro nome</translation>
+    </message>
+    <message>
+        <source>Load Scene...</source>
+        <translation>Carica scena...</translation>
+    </message>
+    <message>
+        <source>Loads a scene</source>
+        <translation>Carica una scena</translation>
+    </message>
+    <message>
+        <source>Upload Scene...</source>
+        <translation>Invia scena...</translation>
+    </message>
+    <message>
+        <source>Uploads current scene to %1</source>
+        <translation>Invia la scena corrente a %1</translation>
+    </message>
+    <message>
+        <source>Download Scenes...</source>
+        <translation>Scarica scene...</translation>
+    </message>
+    <message>
+        <source>Downloads scenes from %1</source>
+        <translation>Scarica scene da %1</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Esporta...</translation>
+    </message>
+    <message>
+        <source>Exports current scene as an image</source>
+        <translation>Esporta la scena corrente come immagine</translation>
+    </message>
+    <message>
+        <source>Evaluate Script...</source>
+        <translation>Esegui script...</translation>
+    </message>
+    <message>
+        <source>Evaluates a .script file</source>
+        <translation>Esegue un file .script</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Esci</translation>
+    </message>
+    <message>
+        <source>Quits the application</source>
+        <translation>Chiude l&apos;applicazione</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Ripeti</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleziona tutto</translation>
+    </message>
+    <message>
+        <source>Selects all items of the scene</source>
+        <translation>Seleziona tutti gli oggetti della scena</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>Ingrandisci</translation>
+    </message>
+    <message>
+        <source>Zooms in</source>
+        <translation>Ingrandisce la vista</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Riduci</translation>
+    </message>
+    <message>
+        <source>Zooms out</source>
+        <translation>Riduce la vista</translation>
+    </message>
+    <message>
+        <source>Zoom Extents</source>
+        <translation>Adatta alla scena</translation>
+    </message>
+    <message>
+        <source>Zooms in or out to fit the extents of the scene</source>
+        <translation>Ingrandisce o riduce la vista per mostrare l&apos;intera scena</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Mostra tutto</translation>
+    </message>
+    <message>
+        <source>Shows all toolbars</source>
+        <translation>Mostra tutte le barre degli strumenti</translation>
+    </message>
+    <message>
+        <source>Hide all</source>
+        <translation>Nascondi tutto</translation>
+    </message>
+    <message>
+        <source>Hides all toolbars</source>
+        <translation>Nasconde tutte le barre degli strumenti</translation>
+    </message>
+    <message>
+        <source>Shows all dock widgets</source>
+        <translation>Mostra tutti i pannelli agganciabili</translation>
+    </message>
+    <message>
+        <source>Hides all dock widgets</source>
+        <translation>Nasconde tutti i pannelli agganciabili</translation>
+    </message>
+    <message>
+        <source>Fullscreen</source>
+        <translation>Schermo intero</translation>
+    </message>
+    <message>
+        <source>Toggles fullscreen mode</source>
+        <translation>Attiva o disattiva la modalità a schermo intero</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aiuto</translation>
+    </message>
+    <message>
+        <source>Shows the application&apos;s help file</source>
+        <translation>Mostra la guida dell&apos;applicazione</translation>
+    </message>
+    <message>
+        <source>About...</source>
+        <translation>Informazioni...</translation>
+    </message>
+    <message>
+        <source>Shows the application&apos;s About box</source>
+        <translation>Mostra la finestra di informazioni dell&apos;applicazione</translation>
+    </message>
+    <message>
+        <source>About Qt...</source>
+        <translation>Informazioni su Qt...</translation>
+    </message>
+    <message>
+        <source>Shows the Qt library&apos;s About box</source>
+        <translation>Mostra la finestra di informazioni della libreria Qt</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Avvia/Pausa</translation>
+    </message>
+    <message>
+        <source>Starts/Pauses the simulation</source>
+        <translation>Avvia o mette in pausa la simulazione</translation>
+    </message>
+    <message>
+        <source>Select/Move</source>
+        <translation>Seleziona/Sposta</translation>
+    </message>
+    <message>
+        <source>Selects and/or moves an item</source>
+        <translation>Seleziona e/o sposta un oggetto</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Removes an item or a selection of items from the scene</source>
+        <translation>Rimuove un oggetto o una selezione di oggetti dalla scena</translation>
+    </message>
+    <message>
+        <source>Explode Item</source>
+        <translation>Fai esplodere oggetto</translation>
+    </message>
+    <message>
+        <source>Explodes an item</source>
+        <translation>Fa esplodere un oggetto</translation>
+    </message>
+    <message>
+        <source>Erase Item</source>
+        <translation>Cancella oggetto</translation>
+    </message>
+    <message>
+        <source>Erases parts of an item</source>
+        <translation>Cancella parti di un oggetto</translation>
+    </message>
+    <message>
+        <source>Create Camera</source>
+        <translation>Crea telecamera</translation>
+    </message>
+    <message>
+        <source>Creates a camera that follows an item</source>
+        <translation>Crea una telecamera che segue un oggetto</translation>
+    </message>
+    <message>
+        <source>Create Tracer</source>
+        <translation>Crea tracciatore</translation>
+    </message>
+    <message>
+        <source>Creates a tracer that follows an item</source>
+        <translation>Crea un tracciatore che segue un oggetto</translation>
+    </message>
+    <message>
+        <source>Shoot Item</source>
+        <translation>Spara oggetto</translation>
+    </message>
+    <message>
+        <source>Shoots an item</source>
+        <translation>Spara un oggetto</translation>
+    </message>
+    <message>
+        <source>Create Plot</source>
+        <translation>Crea grafico</translation>
+    </message>
+    <message>
+        <source>Creates a plot for a given item</source>
+        <translation>Crea un grafico per un oggetto dato</translation>
+    </message>
+    <message>
+        <source>Create Rectangle</source>
+        <translation>Crea rettangolo</translation>
+    </message>
+    <message>
+        <source>Creates a rectangle</source>
+        <translation>Crea un rettangolo</translation>
+    </message>
+    <message>
+        <source>Create Circle</source>
+        <translation>Crea cerchio</translation>
+    </message>
+    <message>
+        <source>Creates a circle</source>
+        <translation>Crea un cerchio</translation>
+    </message>
+    <message>
+        <source>Create Polygon</source>
+        <translation>Crea poligono</translation>
+    </message>
+    <message>
+        <source>Creates a polygon</source>
+        <translation>Crea un poligono</translation>
+    </message>
+    <message>
+        <source>Create Balloon</source>
+        <translation>Crea palloncino</translation>
+    </message>
+    <message>
+        <source>Creates a balloon</source>
+        <translation>Crea un palloncino</translation>
+    </message>
+    <message>
+        <source>Create freehand shape</source>
+        <translation>Crea forma a mano libera</translation>
+    </message>
+    <message>
+        <source>Freehand drawing of random shapes</source>
+        <translation>Disegno a mano libera di forme qualsiasi</translation>
+    </message>
+    <message>
+        <source>Create Chain</source>
+        <translation>Crea catena</translation>
+    </message>
+    <message>
+        <source>Creates a chain</source>
+        <translation>Crea una catena</translation>
+    </message>
+    <message>
+        <source>Create Rope</source>
+        <translation>Crea corda</translation>
+    </message>
+    <message>
+        <source>Creates a rope</source>
+        <translation>Crea una corda</translation>
+    </message>
+    <message>
+        <source>Create Text</source>
+        <translation>Crea testo</translation>
+    </message>
+    <message>
+        <source>Creates items from text</source>
+        <translation>Crea oggetti a partire da un testo</translation>
+    </message>
+    <message>
+        <source>Create Gear</source>
+        <translation>Crea ingranaggio</translation>
+    </message>
+    <message>
+        <source>Creates a gear</source>
+        <translation>Crea un ingranaggio</translation>
+    </message>
+    <message>
+        <source>Create Image</source>
+        <translation>Crea da immagine</translation>
+    </message>
+    <message>
+        <source>Creates a shape based on the outline of a (png) image</source>
+        <translation>Crea una forma basata sul contorno di un&apos;immagine (PNG)</translation>
+    </message>
+    <message>
+        <source>Create Distance Joint</source>
+        <translation>Crea giunto di distanza</translation>
+    </message>
+    <message>
+        <source>Creates a distance joint between two items (or an item and the background)</source>
+        <translation>Crea un giunto di distanza tra due oggetti (o tra un oggetto e lo sfondo)</translation>
+    </message>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>Crea giunto rotoidale</translation>
+    </message>
+    <message>
+        <source>Creates a revolute joint between two items (or an item and the background)</source>
+        <translation>Crea un giunto rotoidale tra due oggetti (o tra un oggetto e lo sfondo)</translation>
+    </message>
+    <message>
+        <source>Create Prismatic Joint</source>
+        <translation>Crea giunto prismatico</translation>
+    </message>
+    <message>
+        <source>Creates a prismatic joint between two items</source>
+        <translation>Crea un giunto prismatico tra due oggetti</translation>
+    </message>
+    <message>
+        <source>Create Pulley Joint</source>
+        <translation>Crea giunto a puleggia</translation>
+    </message>
+    <message>
+        <source>Creates a pulley joint between two items</source>
+        <translation>Crea un giunto a puleggia tra due oggetti</translation>
+    </message>
+    <message>
+        <source>Create Spring</source>
+        <translation>Crea molla</translation>
+    </message>
+    <message>
+        <source>Creates a spring between two items</source>
+        <translation>Crea una molla tra due oggetti</translation>
+    </message>
+    <message>
+        <source>Union</source>
+        <translation>Unione</translation>
+    </message>
+    <message>
+        <source>Creates an item from the union of two other items</source>
+        <translation>Crea un oggetto dall&apos;unione di altri due oggetti</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Differenza</translation>
+    </message>
+    <message>
+        <source>Creates an item from the difference of two other items</source>
+        <translation>Crea un oggetto dalla differenza di altri due oggetti</translation>
+    </message>
+    <message>
+        <source>Intersection</source>
+        <translation>Intersezione</translation>
+    </message>
+    <message>
+        <source>Creates an item from the intersection of two other items</source>
+        <translation>Crea un oggetto dall&apos;intersezione di altri due oggetti</translation>
+    </message>
+    <message>
+        <source>General Toolbar</source>
+        <translation>Barra degli strumenti generale</translation>
+    </message>
+    <message>
+        <source>Bodies Toolbar</source>
+        <translation>Barra degli strumenti corpi</translation>
+    </message>
+    <message>
+        <source>Joints Toolbar</source>
+        <translation>Barra degli strumenti giunti</translation>
+    </message>
+    <message>
+        <source>Forces Toolbar</source>
+        <translation>Barra degli strumenti forze</translation>
+    </message>
+    <message>
+        <source>Boolean Toolbar</source>
+        <translation>Barra degli strumenti booleana</translation>
+    </message>
+    <message>
+        <source>Snap Toolbar</source>
+        <translation>Barra degli strumenti aggancio</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Console</translation>
+    </message>
+    <message>
+        <source>Scene Properties</source>
+        <translation>Proprietà della scena</translation>
+    </message>
+    <message>
+        <source>Property Editor</source>
+        <translation>Editor delle proprietà</translation>
+    </message>
+    <message>
+        <source>Quick Load</source>
+        <translation>Caricamento rapido</translation>
+    </message>
+    <message>
+        <source>Commands History</source>
+        <translation>Cronologia dei comandi</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Modifica</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Visualizza</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Toolbars</source>
+        <translation>Barre degli strumenti</translation>
+    </message>
+    <message>
+        <source>Dock Widgets</source>
+        <translation>Pannelli agganciabili</translation>
+    </message>
+    <message>
+        <source>Perspectives</source>
+        <translation>Prospettive</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Aiuto</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Pronto</translation>
+    </message>
+    <message>
+        <source>Action Context Toolbar</source>
+        <translation>Barra degli strumenti contestuale</translation>
+    </message>
+    <message>
+        <source>New file created</source>
+        <translation>Nuovo file creato</translation>
+    </message>
+    <message>
+        <source>File saved (%1)</source>
+        <translation>File salvato (%1)</translation>
+    </message>
+    <message>
+        <source>File loaded (%1)</source>
+        <translation>File caricato (%1)</translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 - %2</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Carica</translation>
+    </message>
+    <message>
+        <source>*.script</source>
+        <translation>*.script</translation>
+    </message>
+</context>
+<context>
+    <name>PlayPauseAction</name>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Avvia/Pausa</translation>
+    </message>
+</context>
+<context>
+    <name>PolygonAction</name>
+    <message>
+        <source>Create Polygon</source>
+        <translation>Crea poligono</translation>
     </message>
 </context>
 <context>
@@ -48,6 +590,20 @@
     <message>
         <source>Clipper Failed...</source>
         <translation>Clipper non riuscito...</translation>
+    </message>
+</context>
+<context>
+    <name>PrismaticJointAction</name>
+    <message>
+        <source>Create Prismatic Joint</source>
+        <translation>Crea giunto prismatico</translation>
+    </message>
+</context>
+<context>
+    <name>PulleyJointAction</name>
+    <message>
+        <source>Create Pulley Joint</source>
+        <translation>Crea giunto a puleggia</translation>
     </message>
 </context>
 <context>
@@ -59,6 +615,103 @@
     <message>
         <source>Made by the Brivane Project</source>
         <translation>Realizzato dal Progetto Brivane</translation>
+    </message>
+    <message>
+        <source>Balloon</source>
+        <translation>Palloncino</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Cerchio</translation>
+    </message>
+    <message>
+        <source>Distance Joint</source>
+        <translation>Giunto di distanza</translation>
+    </message>
+    <message>
+        <source>Linear Impulse</source>
+        <translation>Impulso lineare</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Avvia</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Poligono</translation>
+    </message>
+    <message>
+        <source>Prismatic Joint</source>
+        <translation>Giunto prismatico</translation>
+    </message>
+    <message>
+        <source>Pulley Joint</source>
+        <translation>Giunto a puleggia</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rettangolo</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Revolute Joint</source>
+        <translation>Giunto rotoidale</translation>
+    </message>
+    <message>
+        <source>Spring Force</source>
+        <translation>Forza elastica</translation>
+    </message>
+</context>
+<context>
+    <name>RectangleAction</name>
+    <message>
+        <source>Create Rectangle</source>
+        <translation>Crea rettangolo</translation>
+    </message>
+    <message>
+        <source>width=%1
+height=%2</source>
+        <translation>larghezza=%1
+altezza=%2</translation>
+    </message>
+</context>
+<context>
+    <name>RevoluteJointAction</name>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>Crea giunto rotoidale</translation>
+    </message>
+</context>
+<context>
+    <name>SelectAction</name>
+    <message>
+        <source>Select/Move</source>
+        <translation>Seleziona/Sposta</translation>
+    </message>
+</context>
+<context>
+    <name>SpringForceAction</name>
+    <message>
+        <source>Create Spring</source>
+        <translation>Crea molla</translation>
+    </message>
+</context>
+<context>
+    <name>StatusBar</name>
+    <message>
+        <source>&lt;B&gt;FPS&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;FPS&lt;/B&gt;: %1</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;X&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;X&lt;/B&gt;: %1</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;Y&lt;/B&gt;: %1</translation>
     </message>
 </context>
 <context>

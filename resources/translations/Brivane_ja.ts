@@ -37,10 +37,552 @@
     </message>
 </context>
 <context>
+    <name>BalloonAction</name>
+    <message>
+        <source>Create Balloon</source>
+        <translation>風船を作成</translation>
+    </message>
+</context>
+<context>
+    <name>CircleAction</name>
+    <message>
+        <source>Create Circle</source>
+        <translation>円を作成</translation>
+    </message>
+    <message>
+        <source>radius=%1</source>
+        <translation>半径=%1</translation>
+    </message>
+</context>
+<context>
+    <name>DistanceJointAction</name>
+    <message>
+        <source>Create Distance Joint</source>
+        <translation>距離ジョイントを作成</translation>
+    </message>
+</context>
+<context>
     <name>GraphicsView</name>
     <message>
         <source>OpenGL is not available here; the view draws without it.</source>
         <translation>この環境では OpenGL を利用できません。ビューは OpenGL を使わずに描画されます。</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>New Scene</source>
+        <translation>新しいシーン</translation>
+    </message>
+    <message>
+        <source>Creates a new scene</source>
+        <translation>新しいシーンを作成します</translation>
+    </message>
+    <message>
+        <source>Save Scene</source>
+        <translation>シーンを保存</translation>
+    </message>
+    <message>
+        <source>Saves current scene</source>
+        <translation>現在のシーンを保存します</translation>
+    </message>
+    <message>
+        <source>Save Scene As...</source>
+        <translation>名前を付けてシーンを保存...</translation>
+    </message>
+    <message>
+        <source>Saves current scene as</source>
+        <translation>現在のシーンに名前を付けて保存します</translation>
+    </message>
+    <message>
+        <source>Load Scene...</source>
+        <translation>シーンを読み込む...</translation>
+    </message>
+    <message>
+        <source>Loads a scene</source>
+        <translation>シーンを読み込みます</translation>
+    </message>
+    <message>
+        <source>Upload Scene...</source>
+        <translation>シーンをアップロード...</translation>
+    </message>
+    <message>
+        <source>Uploads current scene to %1</source>
+        <translation>現在のシーンを %1 にアップロードします</translation>
+    </message>
+    <message>
+        <source>Download Scenes...</source>
+        <translation>シーンをダウンロード...</translation>
+    </message>
+    <message>
+        <source>Downloads scenes from %1</source>
+        <translation>%1 からシーンをダウンロードします</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>エクスポート...</translation>
+    </message>
+    <message>
+        <source>Exports current scene as an image</source>
+        <translation>現在のシーンを画像としてエクスポートします</translation>
+    </message>
+    <message>
+        <source>Evaluate Script...</source>
+        <translation>スクリプトを実行...</translation>
+    </message>
+    <message>
+        <source>Evaluates a .script file</source>
+        <translation>.script ファイルを実行します</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Quits the application</source>
+        <translation>アプリケーションを終了します</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直し</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
+    <message>
+        <source>Selects all items of the scene</source>
+        <translation>シーン内のすべてのアイテムを選択します</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>ズームイン</translation>
+    </message>
+    <message>
+        <source>Zooms in</source>
+        <translation>表示を拡大します</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>ズームアウト</translation>
+    </message>
+    <message>
+        <source>Zooms out</source>
+        <translation>表示を縮小します</translation>
+    </message>
+    <message>
+        <source>Zoom Extents</source>
+        <translation>シーン全体を表示</translation>
+    </message>
+    <message>
+        <source>Zooms in or out to fit the extents of the scene</source>
+        <translation>シーン全体が収まるように表示を拡大または縮小します</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>すべて表示</translation>
+    </message>
+    <message>
+        <source>Shows all toolbars</source>
+        <translation>すべてのツールバーを表示します</translation>
+    </message>
+    <message>
+        <source>Hide all</source>
+        <translation>すべて非表示</translation>
+    </message>
+    <message>
+        <source>Hides all toolbars</source>
+        <translation>すべてのツールバーを非表示にします</translation>
+    </message>
+    <message>
+        <source>Shows all dock widgets</source>
+        <translation>すべてのドックウィジェットを表示します</translation>
+    </message>
+    <message>
+        <source>Hides all dock widgets</source>
+        <translation>すべてのドックウィジェットを非表示にします</translation>
+    </message>
+    <message>
+        <source>Fullscreen</source>
+        <translation>全画面表示</translation>
+    </message>
+    <message>
+        <source>Toggles fullscreen mode</source>
+        <translation>全画面モードを切り替えます</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Shows the application&apos;s help file</source>
+        <translation>アプリケーションのヘルプファイルを表示します</translation>
+    </message>
+    <message>
+        <source>About...</source>
+        <translation>バージョン情報...</translation>
+    </message>
+    <message>
+        <source>Shows the application&apos;s About box</source>
+        <translation>アプリケーションのバージョン情報を表示します</translation>
+    </message>
+    <message>
+        <source>About Qt...</source>
+        <translation>Qt について...</translation>
+    </message>
+    <message>
+        <source>Shows the Qt library&apos;s About box</source>
+        <translation>Qt ライブラリのバージョン情報を表示します</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>再生/一時停止</translation>
+    </message>
+    <message>
+        <source>Starts/Pauses the simulation</source>
+        <translation>シミュレーションを開始または一時停止します</translation>
+    </message>
+    <message>
+        <source>Select/Move</source>
+        <translation>選択/移動</translation>
+    </message>
+    <message>
+        <source>Selects and/or moves an item</source>
+        <translation>アイテムを選択または移動します</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Removes an item or a selection of items from the scene</source>
+        <translation>アイテムまたは選択したアイテムをシーンから削除します</translation>
+    </message>
+    <message>
+        <source>Explode Item</source>
+        <translation>アイテムを爆発</translation>
+    </message>
+    <message>
+        <source>Explodes an item</source>
+        <translation>アイテムを爆発させます</translation>
+    </message>
+    <message>
+        <source>Erase Item</source>
+        <translation>アイテムを消去</translation>
+    </message>
+    <message>
+        <source>Erases parts of an item</source>
+        <translation>アイテムの一部を消去します</translation>
+    </message>
+    <message>
+        <source>Create Camera</source>
+        <translation>カメラを作成</translation>
+    </message>
+    <message>
+        <source>Creates a camera that follows an item</source>
+        <translation>アイテムを追従するカメラを作成します</translation>
+    </message>
+    <message>
+        <source>Create Tracer</source>
+        <translation>トレーサーを作成</translation>
+    </message>
+    <message>
+        <source>Creates a tracer that follows an item</source>
+        <translation>アイテムを追従するトレーサーを作成します</translation>
+    </message>
+    <message>
+        <source>Shoot Item</source>
+        <translation>アイテムを発射</translation>
+    </message>
+    <message>
+        <source>Shoots an item</source>
+        <translation>アイテムを発射します</translation>
+    </message>
+    <message>
+        <source>Create Plot</source>
+        <translation>グラフを作成</translation>
+    </message>
+    <message>
+        <source>Creates a plot for a given item</source>
+        <translation>指定したアイテムのグラフを作成します</translation>
+    </message>
+    <message>
+        <source>Create Rectangle</source>
+        <translation>長方形を作成</translation>
+    </message>
+    <message>
+        <source>Creates a rectangle</source>
+        <translation>長方形を作成します</translation>
+    </message>
+    <message>
+        <source>Create Circle</source>
+        <translation>円を作成</translation>
+    </message>
+    <message>
+        <source>Creates a circle</source>
+        <translation>円を作成します</translation>
+    </message>
+    <message>
+        <source>Create Polygon</source>
+        <translation>多角形を作成</translation>
+    </message>
+    <message>
+        <source>Creates a polygon</source>
+        <translation>多角形を作成します</translation>
+    </message>
+    <message>
+        <source>Create Balloon</source>
+        <translation>風船を作成</translation>
+    </message>
+    <message>
+        <source>Creates a balloon</source>
+        <translation>風船を作成します</translation>
+    </message>
+    <message>
+        <source>Create freehand shape</source>
+        <translation>フリーハンド図形を作成</translation>
+    </message>
+    <message>
+        <source>Freehand drawing of random shapes</source>
+        <translation>任意の図形をフリーハンドで描画します</translation>
+    </message>
+    <message>
+        <source>Create Chain</source>
+        <translation>チェーンを作成</translation>
+    </message>
+    <message>
+        <source>Creates a chain</source>
+        <translation>チェーンを作成します</translation>
+    </message>
+    <message>
+        <source>Create Rope</source>
+        <translation>ロープを作成</translation>
+    </message>
+    <message>
+        <source>Creates a rope</source>
+        <translation>ロープを作成します</translation>
+    </message>
+    <message>
+        <source>Create Text</source>
+        <translation>テキストを作成</translation>
+    </message>
+    <message>
+        <source>Creates items from text</source>
+        <translation>テキストからアイテムを作成します</translation>
+    </message>
+    <message>
+        <source>Create Gear</source>
+        <translation>歯車を作成</translation>
+    </message>
+    <message>
+        <source>Creates a gear</source>
+        <translation>歯車を作成します</translation>
+    </message>
+    <message>
+        <source>Create Image</source>
+        <translation>画像から作成</translation>
+    </message>
+    <message>
+        <source>Creates a shape based on the outline of a (png) image</source>
+        <translation>(PNG) 画像の輪郭に基づいて図形を作成します</translation>
+    </message>
+    <message>
+        <source>Create Distance Joint</source>
+        <translation>距離ジョイントを作成</translation>
+    </message>
+    <message>
+        <source>Creates a distance joint between two items (or an item and the background)</source>
+        <translation>2 つのアイテムの間 (またはアイテムと背景の間) に距離ジョイントを作成します</translation>
+    </message>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>回転ジョイントを作成</translation>
+    </message>
+    <message>
+        <source>Creates a revolute joint between two items (or an item and the background)</source>
+        <translation>2 つのアイテムの間 (またはアイテムと背景の間) に回転ジョイントを作成します</translation>
+    </message>
+    <message>
+        <source>Create Prismatic Joint</source>
+        <translation>直動ジョイントを作成</translation>
+    </message>
+    <message>
+        <source>Creates a prismatic joint between two items</source>
+        <translation>2 つのアイテムの間に直動ジョイントを作成します</translation>
+    </message>
+    <message>
+        <source>Create Pulley Joint</source>
+        <translation>滑車ジョイントを作成</translation>
+    </message>
+    <message>
+        <source>Creates a pulley joint between two items</source>
+        <translation>2 つのアイテムの間に滑車ジョイントを作成します</translation>
+    </message>
+    <message>
+        <source>Create Spring</source>
+        <translation>ばねを作成</translation>
+    </message>
+    <message>
+        <source>Creates a spring between two items</source>
+        <translation>2 つのアイテムの間にばねを作成します</translation>
+    </message>
+    <message>
+        <source>Union</source>
+        <translation>結合</translation>
+    </message>
+    <message>
+        <source>Creates an item from the union of two other items</source>
+        <translation>2 つのアイテムを結合して新しいアイテムを作成します</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>差分</translation>
+    </message>
+    <message>
+        <source>Creates an item from the difference of two other items</source>
+        <translation>2 つのアイテムの差分から新しいアイテムを作成します</translation>
+    </message>
+    <message>
+        <source>Intersection</source>
+        <translation>交差</translation>
+    </message>
+    <message>
+        <source>Creates an item from the intersection of two other items</source>
+        <translation>2 つのアイテムの交差部分から新しいアイテムを作成します</translation>
+    </message>
+    <message>
+        <source>General Toolbar</source>
+        <translation>一般ツールバー</translation>
+    </message>
+    <message>
+        <source>Bodies Toolbar</source>
+        <translation>ボディツールバー</translation>
+    </message>
+    <message>
+        <source>Joints Toolbar</source>
+        <translation>ジョイントツールバー</translation>
+    </message>
+    <message>
+        <source>Forces Toolbar</source>
+        <translation>力ツールバー</translation>
+    </message>
+    <message>
+        <source>Boolean Toolbar</source>
+        <translation>ブール演算ツールバー</translation>
+    </message>
+    <message>
+        <source>Snap Toolbar</source>
+        <translation>スナップツールバー</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>コンソール</translation>
+    </message>
+    <message>
+        <source>Scene Properties</source>
+        <translation>シーンのプロパティ</translation>
+    </message>
+    <message>
+        <source>Property Editor</source>
+        <translation>プロパティエディター</translation>
+    </message>
+    <message>
+        <source>Quick Load</source>
+        <translation>クイックロード</translation>
+    </message>
+    <message>
+        <source>Commands History</source>
+        <translation>コマンド履歴</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>ファイル(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編集(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>表示(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>ズーム</translation>
+    </message>
+    <message>
+        <source>Toolbars</source>
+        <translation>ツールバー</translation>
+    </message>
+    <message>
+        <source>Dock Widgets</source>
+        <translation>ドックウィジェット</translation>
+    </message>
+    <message>
+        <source>Perspectives</source>
+        <translation>パースペクティブ</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>準備完了</translation>
+    </message>
+    <message>
+        <source>Action Context Toolbar</source>
+        <translation>ツールのコンテキストツールバー</translation>
+    </message>
+    <message>
+        <source>New file created</source>
+        <translation>新しいファイルを作成しました</translation>
+    </message>
+    <message>
+        <source>File saved (%1)</source>
+        <translation>ファイルを保存しました (%1)</translation>
+    </message>
+    <message>
+        <source>File loaded (%1)</source>
+        <translation>ファイルを読み込みました (%1)</translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 - %2</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>読み込み</translation>
+    </message>
+    <message>
+        <source>*.script</source>
+        <translation>*.script</translation>
+    </message>
+</context>
+<context>
+    <name>PlayPauseAction</name>
+    <message>
+        <source>Play/Pause</source>
+        <translation>再生/一時停止</translation>
+    </message>
+</context>
+<context>
+    <name>PolygonAction</name>
+    <message>
+        <source>Create Polygon</source>
+        <translation>多角形を作成</translation>
     </message>
 </context>
 <context>
@@ -48,6 +590,20 @@
     <message>
         <source>Clipper Failed...</source>
         <translation>Clipper が失敗しました...</translation>
+    </message>
+</context>
+<context>
+    <name>PrismaticJointAction</name>
+    <message>
+        <source>Create Prismatic Joint</source>
+        <translation>直動ジョイントを作成</translation>
+    </message>
+</context>
+<context>
+    <name>PulleyJointAction</name>
+    <message>
+        <source>Create Pulley Joint</source>
+        <translation>滑車ジョイントを作成</translation>
     </message>
 </context>
 <context>
@@ -59,6 +615,103 @@
     <message>
         <source>Made by the Brivane Project</source>
         <translation>制作: Brivane プロジェクト</translation>
+    </message>
+    <message>
+        <source>Balloon</source>
+        <translation>風船</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>円</translation>
+    </message>
+    <message>
+        <source>Distance Joint</source>
+        <translation>距離ジョイント</translation>
+    </message>
+    <message>
+        <source>Linear Impulse</source>
+        <translation>線形インパルス</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>多角形</translation>
+    </message>
+    <message>
+        <source>Prismatic Joint</source>
+        <translation>直動ジョイント</translation>
+    </message>
+    <message>
+        <source>Pulley Joint</source>
+        <translation>滑車ジョイント</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>長方形</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Revolute Joint</source>
+        <translation>回転ジョイント</translation>
+    </message>
+    <message>
+        <source>Spring Force</source>
+        <translation>ばねの力</translation>
+    </message>
+</context>
+<context>
+    <name>RectangleAction</name>
+    <message>
+        <source>Create Rectangle</source>
+        <translation>長方形を作成</translation>
+    </message>
+    <message>
+        <source>width=%1
+height=%2</source>
+        <translation>幅=%1
+高さ=%2</translation>
+    </message>
+</context>
+<context>
+    <name>RevoluteJointAction</name>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>回転ジョイントを作成</translation>
+    </message>
+</context>
+<context>
+    <name>SelectAction</name>
+    <message>
+        <source>Select/Move</source>
+        <translation>選択/移動</translation>
+    </message>
+</context>
+<context>
+    <name>SpringForceAction</name>
+    <message>
+        <source>Create Spring</source>
+        <translation>ばねを作成</translation>
+    </message>
+</context>
+<context>
+    <name>StatusBar</name>
+    <message>
+        <source>&lt;B&gt;FPS&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;FPS&lt;/B&gt;: %1</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;X&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;X&lt;/B&gt;: %1</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;Y&lt;/B&gt;: %1</translation>
     </message>
 </context>
 <context>

@@ -37,10 +37,552 @@
     </message>
 </context>
 <context>
+    <name>BalloonAction</name>
+    <message>
+        <source>Create Balloon</source>
+        <translation>Создать воздушный шар</translation>
+    </message>
+</context>
+<context>
+    <name>CircleAction</name>
+    <message>
+        <source>Create Circle</source>
+        <translation>Создать круг</translation>
+    </message>
+    <message>
+        <source>radius=%1</source>
+        <translation>радиус=%1</translation>
+    </message>
+</context>
+<context>
+    <name>DistanceJointAction</name>
+    <message>
+        <source>Create Distance Joint</source>
+        <translation>Создать дистанционное соединение</translation>
+    </message>
+</context>
+<context>
     <name>GraphicsView</name>
     <message>
         <source>OpenGL is not available here; the view draws without it.</source>
         <translation>OpenGL здесь недоступен; вид отрисовывается без него.</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 м</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>New Scene</source>
+        <translation>Новая сцена</translation>
+    </message>
+    <message>
+        <source>Creates a new scene</source>
+        <translation>Создаёт новую сцену</translation>
+    </message>
+    <message>
+        <source>Save Scene</source>
+        <translation>Сохранить сцену</translation>
+    </message>
+    <message>
+        <source>Saves current scene</source>
+        <translation>Сохраняет текущую сцену</translation>
+    </message>
+    <message>
+        <source>Save Scene As...</source>
+        <translation>Сохранить сцену как...</translation>
+    </message>
+    <message>
+        <source>Saves current scene as</source>
+        <translation>Сохраняет текущую сцену под другим именем</translation>
+    </message>
+    <message>
+        <source>Load Scene...</source>
+        <translation>Загрузить сцену...</translation>
+    </message>
+    <message>
+        <source>Loads a scene</source>
+        <translation>Загружает сцену</translation>
+    </message>
+    <message>
+        <source>Upload Scene...</source>
+        <translation>Отправить сцену...</translation>
+    </message>
+    <message>
+        <source>Uploads current scene to %1</source>
+        <translation>Отправляет текущую сцену на %1</translation>
+    </message>
+    <message>
+        <source>Download Scenes...</source>
+        <translation>Скачать сцены...</translation>
+    </message>
+    <message>
+        <source>Downloads scenes from %1</source>
+        <translation>Скачивает сцены с %1</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Экспорт...</translation>
+    </message>
+    <message>
+        <source>Exports current scene as an image</source>
+        <translation>Экспортирует текущую сцену в изображение</translation>
+    </message>
+    <message>
+        <source>Evaluate Script...</source>
+        <translation>Выполнить скрипт...</translation>
+    </message>
+    <message>
+        <source>Evaluates a .script file</source>
+        <translation>Выполняет файл .script</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Выход</translation>
+    </message>
+    <message>
+        <source>Quits the application</source>
+        <translation>Завершает работу приложения</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Отменить</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Повторить</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Выделить всё</translation>
+    </message>
+    <message>
+        <source>Selects all items of the scene</source>
+        <translation>Выделяет все объекты сцены</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>Увеличить</translation>
+    </message>
+    <message>
+        <source>Zooms in</source>
+        <translation>Увеличивает масштаб</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Уменьшить</translation>
+    </message>
+    <message>
+        <source>Zooms out</source>
+        <translation>Уменьшает масштаб</translation>
+    </message>
+    <message>
+        <source>Zoom Extents</source>
+        <translation>Показать всю сцену</translation>
+    </message>
+    <message>
+        <source>Zooms in or out to fit the extents of the scene</source>
+        <translation>Изменяет масштаб так, чтобы была видна вся сцена</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Показать все</translation>
+    </message>
+    <message>
+        <source>Shows all toolbars</source>
+        <translation>Показывает все панели инструментов</translation>
+    </message>
+    <message>
+        <source>Hide all</source>
+        <translation>Скрыть все</translation>
+    </message>
+    <message>
+        <source>Hides all toolbars</source>
+        <translation>Скрывает все панели инструментов</translation>
+    </message>
+    <message>
+        <source>Shows all dock widgets</source>
+        <translation>Показывает все прикрепляемые панели</translation>
+    </message>
+    <message>
+        <source>Hides all dock widgets</source>
+        <translation>Скрывает все прикрепляемые панели</translation>
+    </message>
+    <message>
+        <source>Fullscreen</source>
+        <translation>Полноэкранный режим</translation>
+    </message>
+    <message>
+        <source>Toggles fullscreen mode</source>
+        <translation>Включает или выключает полноэкранный режим</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Справка</translation>
+    </message>
+    <message>
+        <source>Shows the application&apos;s help file</source>
+        <translation>Открывает файл справки приложения</translation>
+    </message>
+    <message>
+        <source>About...</source>
+        <translation>О программе...</translation>
+    </message>
+    <message>
+        <source>Shows the application&apos;s About box</source>
+        <translation>Показывает окно «О программе»</translation>
+    </message>
+    <message>
+        <source>About Qt...</source>
+        <translation>О Qt...</translation>
+    </message>
+    <message>
+        <source>Shows the Qt library&apos;s About box</source>
+        <translation>Показывает окно сведений о библиотеке Qt</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Пуск/Пауза</translation>
+    </message>
+    <message>
+        <source>Starts/Pauses the simulation</source>
+        <translation>Запускает или приостанавливает симуляцию</translation>
+    </message>
+    <message>
+        <source>Select/Move</source>
+        <translation>Выбрать/Переместить</translation>
+    </message>
+    <message>
+        <source>Selects and/or moves an item</source>
+        <translation>Выделяет и/или перемещает объект</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Removes an item or a selection of items from the scene</source>
+        <translation>Удаляет объект или выделенные объекты со сцены</translation>
+    </message>
+    <message>
+        <source>Explode Item</source>
+        <translation>Взорвать объект</translation>
+    </message>
+    <message>
+        <source>Explodes an item</source>
+        <translation>Взрывает объект</translation>
+    </message>
+    <message>
+        <source>Erase Item</source>
+        <translation>Стереть часть объекта</translation>
+    </message>
+    <message>
+        <source>Erases parts of an item</source>
+        <translation>Стирает части объекта</translation>
+    </message>
+    <message>
+        <source>Create Camera</source>
+        <translation>Создать камеру</translation>
+    </message>
+    <message>
+        <source>Creates a camera that follows an item</source>
+        <translation>Создаёт камеру, следующую за объектом</translation>
+    </message>
+    <message>
+        <source>Create Tracer</source>
+        <translation>Создать след</translation>
+    </message>
+    <message>
+        <source>Creates a tracer that follows an item</source>
+        <translation>Создаёт след, отслеживающий объект</translation>
+    </message>
+    <message>
+        <source>Shoot Item</source>
+        <translation>Выстрелить объектом</translation>
+    </message>
+    <message>
+        <source>Shoots an item</source>
+        <translation>Стреляет объектом</translation>
+    </message>
+    <message>
+        <source>Create Plot</source>
+        <translation>Создать график</translation>
+    </message>
+    <message>
+        <source>Creates a plot for a given item</source>
+        <translation>Создаёт график для выбранного объекта</translation>
+    </message>
+    <message>
+        <source>Create Rectangle</source>
+        <translation>Создать прямоугольник</translation>
+    </message>
+    <message>
+        <source>Creates a rectangle</source>
+        <translation>Создаёт прямоугольник</translation>
+    </message>
+    <message>
+        <source>Create Circle</source>
+        <translation>Создать круг</translation>
+    </message>
+    <message>
+        <source>Creates a circle</source>
+        <translation>Создаёт круг</translation>
+    </message>
+    <message>
+        <source>Create Polygon</source>
+        <translation>Создать многоугольник</translation>
+    </message>
+    <message>
+        <source>Creates a polygon</source>
+        <translation>Создаёт многоугольник</translation>
+    </message>
+    <message>
+        <source>Create Balloon</source>
+        <translation>Создать воздушный шар</translation>
+    </message>
+    <message>
+        <source>Creates a balloon</source>
+        <translation>Создаёт воздушный шар</translation>
+    </message>
+    <message>
+        <source>Create freehand shape</source>
+        <translation>Создать фигуру от руки</translation>
+    </message>
+    <message>
+        <source>Freehand drawing of random shapes</source>
+        <translation>Рисование произвольных фигур от руки</translation>
+    </message>
+    <message>
+        <source>Create Chain</source>
+        <translation>Создать цепь</translation>
+    </message>
+    <message>
+        <source>Creates a chain</source>
+        <translation>Создаёт цепь</translation>
+    </message>
+    <message>
+        <source>Create Rope</source>
+        <translation>Создать верёвку</translation>
+    </message>
+    <message>
+        <source>Creates a rope</source>
+        <translation>Создаёт верёвку</translation>
+    </message>
+    <message>
+        <source>Create Text</source>
+        <translation>Создать текст</translation>
+    </message>
+    <message>
+        <source>Creates items from text</source>
+        <translation>Создаёт объекты из текста</translation>
+    </message>
+    <message>
+        <source>Create Gear</source>
+        <translation>Создать шестерню</translation>
+    </message>
+    <message>
+        <source>Creates a gear</source>
+        <translation>Создаёт шестерню</translation>
+    </message>
+    <message>
+        <source>Create Image</source>
+        <translation>Создать из изображения</translation>
+    </message>
+    <message>
+        <source>Creates a shape based on the outline of a (png) image</source>
+        <translation>Создаёт фигуру по контуру изображения (PNG)</translation>
+    </message>
+    <message>
+        <source>Create Distance Joint</source>
+        <translation>Создать дистанционное соединение</translation>
+    </message>
+    <message>
+        <source>Creates a distance joint between two items (or an item and the background)</source>
+        <translation>Создаёт дистанционное соединение между двумя объектами (или между объектом и фоном)</translation>
+    </message>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>Создать шарнирное соединение</translation>
+    </message>
+    <message>
+        <source>Creates a revolute joint between two items (or an item and the background)</source>
+        <translation>Создаёт шарнирное соединение между двумя объектами (или между объектом и фоном)</translation>
+    </message>
+    <message>
+        <source>Create Prismatic Joint</source>
+        <translation>Создать призматическое соединение</translation>
+    </message>
+    <message>
+        <source>Creates a prismatic joint between two items</source>
+        <translation>Создаёт призматическое соединение между двумя объектами</translation>
+    </message>
+    <message>
+        <source>Create Pulley Joint</source>
+        <translation>Создать блочное соединение</translation>
+    </message>
+    <message>
+        <source>Creates a pulley joint between two items</source>
+        <translation>Создаёт блочное соединение между двумя объектами</translation>
+    </message>
+    <message>
+        <source>Create Spring</source>
+        <translation>Создать пружину</translation>
+    </message>
+    <message>
+        <source>Creates a spring between two items</source>
+        <translation>Создаёт пружину между двумя объектами</translation>
+    </message>
+    <message>
+        <source>Union</source>
+        <translation>Объединение</translation>
+    </message>
+    <message>
+        <source>Creates an item from the union of two other items</source>
+        <translation>Создаёт объект из объединения двух других объектов</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Разность</translation>
+    </message>
+    <message>
+        <source>Creates an item from the difference of two other items</source>
+        <translation>Создаёт объект из разности двух других объектов</translation>
+    </message>
+    <message>
+        <source>Intersection</source>
+        <translation>Пересечение</translation>
+    </message>
+    <message>
+        <source>Creates an item from the intersection of two other items</source>
+        <translation>Создаёт объект из пересечения двух других объектов</translation>
+    </message>
+    <message>
+        <source>General Toolbar</source>
+        <translation>Основная панель инструментов</translation>
+    </message>
+    <message>
+        <source>Bodies Toolbar</source>
+        <translation>Панель тел</translation>
+    </message>
+    <message>
+        <source>Joints Toolbar</source>
+        <translation>Панель соединений</translation>
+    </message>
+    <message>
+        <source>Forces Toolbar</source>
+        <translation>Панель сил</translation>
+    </message>
+    <message>
+        <source>Boolean Toolbar</source>
+        <translation>Панель булевых операций</translation>
+    </message>
+    <message>
+        <source>Snap Toolbar</source>
+        <translation>Панель привязки</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Консоль</translation>
+    </message>
+    <message>
+        <source>Scene Properties</source>
+        <translation>Свойства сцены</translation>
+    </message>
+    <message>
+        <source>Property Editor</source>
+        <translation>Редактор свойств</translation>
+    </message>
+    <message>
+        <source>Quick Load</source>
+        <translation>Быстрая загрузка</translation>
+    </message>
+    <message>
+        <source>Commands History</source>
+        <translation>История команд</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Файл</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Правка</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Вид</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Масштаб</translation>
+    </message>
+    <message>
+        <source>Toolbars</source>
+        <translation>Панели инструментов</translation>
+    </message>
+    <message>
+        <source>Dock Widgets</source>
+        <translation>Прикрепляемые панели</translation>
+    </message>
+    <message>
+        <source>Perspectives</source>
+        <translation>Перспективы</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Справка</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Готово</translation>
+    </message>
+    <message>
+        <source>Action Context Toolbar</source>
+        <translation>Контекстная панель инструмента</translation>
+    </message>
+    <message>
+        <source>New file created</source>
+        <translation>Создан новый файл</translation>
+    </message>
+    <message>
+        <source>File saved (%1)</source>
+        <translation>Файл сохранён (%1)</translation>
+    </message>
+    <message>
+        <source>File loaded (%1)</source>
+        <translation>Файл загружен (%1)</translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 - %2</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Загрузить</translation>
+    </message>
+    <message>
+        <source>*.script</source>
+        <translation>*.script</translation>
+    </message>
+</context>
+<context>
+    <name>PlayPauseAction</name>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Пуск/Пауза</translation>
+    </message>
+</context>
+<context>
+    <name>PolygonAction</name>
+    <message>
+        <source>Create Polygon</source>
+        <translation>Создать многоугольник</translation>
     </message>
 </context>
 <context>
@@ -48,6 +590,20 @@
     <message>
         <source>Clipper Failed...</source>
         <translation>Ошибка Clipper...</translation>
+    </message>
+</context>
+<context>
+    <name>PrismaticJointAction</name>
+    <message>
+        <source>Create Prismatic Joint</source>
+        <translation>Создать призматическое соединение</translation>
+    </message>
+</context>
+<context>
+    <name>PulleyJointAction</name>
+    <message>
+        <source>Create Pulley Joint</source>
+        <translation>Создать блочное соединение</translation>
     </message>
 </context>
 <context>
@@ -59,6 +615,103 @@
     <message>
         <source>Made by the Brivane Project</source>
         <translation>Создано проектом Brivane</translation>
+    </message>
+    <message>
+        <source>Balloon</source>
+        <translation>Воздушный шар</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Круг</translation>
+    </message>
+    <message>
+        <source>Distance Joint</source>
+        <translation>Дистанционное соединение</translation>
+    </message>
+    <message>
+        <source>Linear Impulse</source>
+        <translation>Линейный импульс</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Пуск</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Многоугольник</translation>
+    </message>
+    <message>
+        <source>Prismatic Joint</source>
+        <translation>Призматическое соединение</translation>
+    </message>
+    <message>
+        <source>Pulley Joint</source>
+        <translation>Блочное соединение</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Прямоугольник</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Revolute Joint</source>
+        <translation>Шарнирное соединение</translation>
+    </message>
+    <message>
+        <source>Spring Force</source>
+        <translation>Сила пружины</translation>
+    </message>
+</context>
+<context>
+    <name>RectangleAction</name>
+    <message>
+        <source>Create Rectangle</source>
+        <translation>Создать прямоугольник</translation>
+    </message>
+    <message>
+        <source>width=%1
+height=%2</source>
+        <translation>ширина=%1
+высота=%2</translation>
+    </message>
+</context>
+<context>
+    <name>RevoluteJointAction</name>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>Создать шарнирное соединение</translation>
+    </message>
+</context>
+<context>
+    <name>SelectAction</name>
+    <message>
+        <source>Select/Move</source>
+        <translation>Выбрать/Переместить</translation>
+    </message>
+</context>
+<context>
+    <name>SpringForceAction</name>
+    <message>
+        <source>Create Spring</source>
+        <translation>Создать пружину</translation>
+    </message>
+</context>
+<context>
+    <name>StatusBar</name>
+    <message>
+        <source>&lt;B&gt;FPS&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;FPS&lt;/B&gt;: %1</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;X&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;X&lt;/B&gt;: %1</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;Y&lt;/B&gt;: %1</translation>
     </message>
 </context>
 <context>

@@ -37,10 +37,552 @@
     </message>
 </context>
 <context>
+    <name>BalloonAction</name>
+    <message>
+        <source>Create Balloon</source>
+        <translation>创建气球</translation>
+    </message>
+</context>
+<context>
+    <name>CircleAction</name>
+    <message>
+        <source>Create Circle</source>
+        <translation>创建圆形</translation>
+    </message>
+    <message>
+        <source>radius=%1</source>
+        <translation>半径=%1</translation>
+    </message>
+</context>
+<context>
+    <name>DistanceJointAction</name>
+    <message>
+        <source>Create Distance Joint</source>
+        <translation>创建距离关节</translation>
+    </message>
+</context>
+<context>
     <name>GraphicsView</name>
     <message>
         <source>OpenGL is not available here; the view draws without it.</source>
         <translation>此处无法使用 OpenGL；视图将不使用 OpenGL 进行绘制。</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>New Scene</source>
+        <translation>新建场景</translation>
+    </message>
+    <message>
+        <source>Creates a new scene</source>
+        <translation>创建一个新场景</translation>
+    </message>
+    <message>
+        <source>Save Scene</source>
+        <translation>保存场景</translation>
+    </message>
+    <message>
+        <source>Saves current scene</source>
+        <translation>保存当前场景</translation>
+    </message>
+    <message>
+        <source>Save Scene As...</source>
+        <translation>场景另存为...</translation>
+    </message>
+    <message>
+        <source>Saves current scene as</source>
+        <translation>将当前场景另存为新文件</translation>
+    </message>
+    <message>
+        <source>Load Scene...</source>
+        <translation>加载场景...</translation>
+    </message>
+    <message>
+        <source>Loads a scene</source>
+        <translation>加载一个场景</translation>
+    </message>
+    <message>
+        <source>Upload Scene...</source>
+        <translation>上传场景...</translation>
+    </message>
+    <message>
+        <source>Uploads current scene to %1</source>
+        <translation>将当前场景上传到 %1</translation>
+    </message>
+    <message>
+        <source>Download Scenes...</source>
+        <translation>下载场景...</translation>
+    </message>
+    <message>
+        <source>Downloads scenes from %1</source>
+        <translation>从 %1 下载场景</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>导出...</translation>
+    </message>
+    <message>
+        <source>Exports current scene as an image</source>
+        <translation>将当前场景导出为图像</translation>
+    </message>
+    <message>
+        <source>Evaluate Script...</source>
+        <translation>运行脚本...</translation>
+    </message>
+    <message>
+        <source>Evaluates a .script file</source>
+        <translation>运行一个 .script 文件</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>Quits the application</source>
+        <translation>退出应用程序</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>Selects all items of the scene</source>
+        <translation>选择场景中的所有对象</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Zooms in</source>
+        <translation>放大视图</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>Zooms out</source>
+        <translation>缩小视图</translation>
+    </message>
+    <message>
+        <source>Zoom Extents</source>
+        <translation>缩放至全景</translation>
+    </message>
+    <message>
+        <source>Zooms in or out to fit the extents of the scene</source>
+        <translation>放大或缩小视图以显示整个场景</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>全部显示</translation>
+    </message>
+    <message>
+        <source>Shows all toolbars</source>
+        <translation>显示所有工具栏</translation>
+    </message>
+    <message>
+        <source>Hide all</source>
+        <translation>全部隐藏</translation>
+    </message>
+    <message>
+        <source>Hides all toolbars</source>
+        <translation>隐藏所有工具栏</translation>
+    </message>
+    <message>
+        <source>Shows all dock widgets</source>
+        <translation>显示所有停靠窗口</translation>
+    </message>
+    <message>
+        <source>Hides all dock widgets</source>
+        <translation>隐藏所有停靠窗口</translation>
+    </message>
+    <message>
+        <source>Fullscreen</source>
+        <translation>全屏</translation>
+    </message>
+    <message>
+        <source>Toggles fullscreen mode</source>
+        <translation>切换全屏模式</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>Shows the application&apos;s help file</source>
+        <translation>显示应用程序的帮助文件</translation>
+    </message>
+    <message>
+        <source>About...</source>
+        <translation>关于...</translation>
+    </message>
+    <message>
+        <source>Shows the application&apos;s About box</source>
+        <translation>显示应用程序的“关于”对话框</translation>
+    </message>
+    <message>
+        <source>About Qt...</source>
+        <translation>关于 Qt...</translation>
+    </message>
+    <message>
+        <source>Shows the Qt library&apos;s About box</source>
+        <translation>显示 Qt 库的“关于”对话框</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>播放/暂停</translation>
+    </message>
+    <message>
+        <source>Starts/Pauses the simulation</source>
+        <translation>开始或暂停模拟</translation>
+    </message>
+    <message>
+        <source>Select/Move</source>
+        <translation>选择/移动</translation>
+    </message>
+    <message>
+        <source>Selects and/or moves an item</source>
+        <translation>选择和/或移动对象</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Removes an item or a selection of items from the scene</source>
+        <translation>从场景中删除一个对象或所选的多个对象</translation>
+    </message>
+    <message>
+        <source>Explode Item</source>
+        <translation>爆破对象</translation>
+    </message>
+    <message>
+        <source>Explodes an item</source>
+        <translation>使对象爆炸</translation>
+    </message>
+    <message>
+        <source>Erase Item</source>
+        <translation>擦除对象</translation>
+    </message>
+    <message>
+        <source>Erases parts of an item</source>
+        <translation>擦除对象的部分区域</translation>
+    </message>
+    <message>
+        <source>Create Camera</source>
+        <translation>创建摄像机</translation>
+    </message>
+    <message>
+        <source>Creates a camera that follows an item</source>
+        <translation>创建一个跟随对象的摄像机</translation>
+    </message>
+    <message>
+        <source>Create Tracer</source>
+        <translation>创建轨迹追踪器</translation>
+    </message>
+    <message>
+        <source>Creates a tracer that follows an item</source>
+        <translation>创建一个跟随对象的轨迹追踪器</translation>
+    </message>
+    <message>
+        <source>Shoot Item</source>
+        <translation>发射对象</translation>
+    </message>
+    <message>
+        <source>Shoots an item</source>
+        <translation>发射一个对象</translation>
+    </message>
+    <message>
+        <source>Create Plot</source>
+        <translation>创建图表</translation>
+    </message>
+    <message>
+        <source>Creates a plot for a given item</source>
+        <translation>为指定对象创建图表</translation>
+    </message>
+    <message>
+        <source>Create Rectangle</source>
+        <translation>创建矩形</translation>
+    </message>
+    <message>
+        <source>Creates a rectangle</source>
+        <translation>创建一个矩形</translation>
+    </message>
+    <message>
+        <source>Create Circle</source>
+        <translation>创建圆形</translation>
+    </message>
+    <message>
+        <source>Creates a circle</source>
+        <translation>创建一个圆形</translation>
+    </message>
+    <message>
+        <source>Create Polygon</source>
+        <translation>创建多边形</translation>
+    </message>
+    <message>
+        <source>Creates a polygon</source>
+        <translation>创建一个多边形</translation>
+    </message>
+    <message>
+        <source>Create Balloon</source>
+        <translation>创建气球</translation>
+    </message>
+    <message>
+        <source>Creates a balloon</source>
+        <translation>创建一个气球</translation>
+    </message>
+    <message>
+        <source>Create freehand shape</source>
+        <translation>创建手绘形状</translation>
+    </message>
+    <message>
+        <source>Freehand drawing of random shapes</source>
+        <translation>手绘任意形状</translation>
+    </message>
+    <message>
+        <source>Create Chain</source>
+        <translation>创建链条</translation>
+    </message>
+    <message>
+        <source>Creates a chain</source>
+        <translation>创建一条链条</translation>
+    </message>
+    <message>
+        <source>Create Rope</source>
+        <translation>创建绳索</translation>
+    </message>
+    <message>
+        <source>Creates a rope</source>
+        <translation>创建一条绳索</translation>
+    </message>
+    <message>
+        <source>Create Text</source>
+        <translation>创建文字</translation>
+    </message>
+    <message>
+        <source>Creates items from text</source>
+        <translation>根据文字创建对象</translation>
+    </message>
+    <message>
+        <source>Create Gear</source>
+        <translation>创建齿轮</translation>
+    </message>
+    <message>
+        <source>Creates a gear</source>
+        <translation>创建一个齿轮</translation>
+    </message>
+    <message>
+        <source>Create Image</source>
+        <translation>从图像创建</translation>
+    </message>
+    <message>
+        <source>Creates a shape based on the outline of a (png) image</source>
+        <translation>根据 (PNG) 图像的轮廓创建形状</translation>
+    </message>
+    <message>
+        <source>Create Distance Joint</source>
+        <translation>创建距离关节</translation>
+    </message>
+    <message>
+        <source>Creates a distance joint between two items (or an item and the background)</source>
+        <translation>在两个对象之间（或对象与背景之间）创建距离关节</translation>
+    </message>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>创建旋转关节</translation>
+    </message>
+    <message>
+        <source>Creates a revolute joint between two items (or an item and the background)</source>
+        <translation>在两个对象之间（或对象与背景之间）创建旋转关节</translation>
+    </message>
+    <message>
+        <source>Create Prismatic Joint</source>
+        <translation>创建平移关节</translation>
+    </message>
+    <message>
+        <source>Creates a prismatic joint between two items</source>
+        <translation>在两个对象之间创建平移关节</translation>
+    </message>
+    <message>
+        <source>Create Pulley Joint</source>
+        <translation>创建滑轮关节</translation>
+    </message>
+    <message>
+        <source>Creates a pulley joint between two items</source>
+        <translation>在两个对象之间创建滑轮关节</translation>
+    </message>
+    <message>
+        <source>Create Spring</source>
+        <translation>创建弹簧</translation>
+    </message>
+    <message>
+        <source>Creates a spring between two items</source>
+        <translation>在两个对象之间创建弹簧</translation>
+    </message>
+    <message>
+        <source>Union</source>
+        <translation>并集</translation>
+    </message>
+    <message>
+        <source>Creates an item from the union of two other items</source>
+        <translation>由另外两个对象的并集创建对象</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>差集</translation>
+    </message>
+    <message>
+        <source>Creates an item from the difference of two other items</source>
+        <translation>由另外两个对象的差集创建对象</translation>
+    </message>
+    <message>
+        <source>Intersection</source>
+        <translation>交集</translation>
+    </message>
+    <message>
+        <source>Creates an item from the intersection of two other items</source>
+        <translation>由另外两个对象的交集创建对象</translation>
+    </message>
+    <message>
+        <source>General Toolbar</source>
+        <translation>常规工具栏</translation>
+    </message>
+    <message>
+        <source>Bodies Toolbar</source>
+        <translation>物体工具栏</translation>
+    </message>
+    <message>
+        <source>Joints Toolbar</source>
+        <translation>关节工具栏</translation>
+    </message>
+    <message>
+        <source>Forces Toolbar</source>
+        <translation>力工具栏</translation>
+    </message>
+    <message>
+        <source>Boolean Toolbar</source>
+        <translation>布尔运算工具栏</translation>
+    </message>
+    <message>
+        <source>Snap Toolbar</source>
+        <translation>吸附工具栏</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>控制台</translation>
+    </message>
+    <message>
+        <source>Scene Properties</source>
+        <translation>场景属性</translation>
+    </message>
+    <message>
+        <source>Property Editor</source>
+        <translation>属性编辑器</translation>
+    </message>
+    <message>
+        <source>Quick Load</source>
+        <translation>快速加载</translation>
+    </message>
+    <message>
+        <source>Commands History</source>
+        <translation>命令历史</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>缩放</translation>
+    </message>
+    <message>
+        <source>Toolbars</source>
+        <translation>工具栏</translation>
+    </message>
+    <message>
+        <source>Dock Widgets</source>
+        <translation>停靠窗口</translation>
+    </message>
+    <message>
+        <source>Perspectives</source>
+        <translation>透视图</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>就绪</translation>
+    </message>
+    <message>
+        <source>Action Context Toolbar</source>
+        <translation>工具上下文工具栏</translation>
+    </message>
+    <message>
+        <source>New file created</source>
+        <translation>已创建新文件</translation>
+    </message>
+    <message>
+        <source>File saved (%1)</source>
+        <translation>文件已保存 (%1)</translation>
+    </message>
+    <message>
+        <source>File loaded (%1)</source>
+        <translation>文件已加载 (%1)</translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 - %2</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>加载</translation>
+    </message>
+    <message>
+        <source>*.script</source>
+        <translation>*.script</translation>
+    </message>
+</context>
+<context>
+    <name>PlayPauseAction</name>
+    <message>
+        <source>Play/Pause</source>
+        <translation>播放/暂停</translation>
+    </message>
+</context>
+<context>
+    <name>PolygonAction</name>
+    <message>
+        <source>Create Polygon</source>
+        <translation>创建多边形</translation>
     </message>
 </context>
 <context>
@@ -48,6 +590,20 @@
     <message>
         <source>Clipper Failed...</source>
         <translation>Clipper 失败...</translation>
+    </message>
+</context>
+<context>
+    <name>PrismaticJointAction</name>
+    <message>
+        <source>Create Prismatic Joint</source>
+        <translation>创建平移关节</translation>
+    </message>
+</context>
+<context>
+    <name>PulleyJointAction</name>
+    <message>
+        <source>Create Pulley Joint</source>
+        <translation>创建滑轮关节</translation>
     </message>
 </context>
 <context>
@@ -59,6 +615,103 @@
     <message>
         <source>Made by the Brivane Project</source>
         <translation>由 Brivane 项目制作</translation>
+    </message>
+    <message>
+        <source>Balloon</source>
+        <translation>气球</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>圆形</translation>
+    </message>
+    <message>
+        <source>Distance Joint</source>
+        <translation>距离关节</translation>
+    </message>
+    <message>
+        <source>Linear Impulse</source>
+        <translation>线性冲量</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>多边形</translation>
+    </message>
+    <message>
+        <source>Prismatic Joint</source>
+        <translation>平移关节</translation>
+    </message>
+    <message>
+        <source>Pulley Joint</source>
+        <translation>滑轮关节</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>矩形</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Revolute Joint</source>
+        <translation>旋转关节</translation>
+    </message>
+    <message>
+        <source>Spring Force</source>
+        <translation>弹簧力</translation>
+    </message>
+</context>
+<context>
+    <name>RectangleAction</name>
+    <message>
+        <source>Create Rectangle</source>
+        <translation>创建矩形</translation>
+    </message>
+    <message>
+        <source>width=%1
+height=%2</source>
+        <translation>宽度=%1
+高度=%2</translation>
+    </message>
+</context>
+<context>
+    <name>RevoluteJointAction</name>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>创建旋转关节</translation>
+    </message>
+</context>
+<context>
+    <name>SelectAction</name>
+    <message>
+        <source>Select/Move</source>
+        <translation>选择/移动</translation>
+    </message>
+</context>
+<context>
+    <name>SpringForceAction</name>
+    <message>
+        <source>Create Spring</source>
+        <translation>创建弹簧</translation>
+    </message>
+</context>
+<context>
+    <name>StatusBar</name>
+    <message>
+        <source>&lt;B&gt;FPS&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;FPS&lt;/B&gt;: %1</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;X&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;X&lt;/B&gt;: %1</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
+        <translation>&lt;B&gt;Y&lt;/B&gt;: %1</translation>
     </message>
 </context>
 <context>

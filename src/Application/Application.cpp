@@ -5,12 +5,16 @@
 #include "NemuToolbox/Toolbox.h"
 #include "Physics/BalloonItem.h"
 #include "Physics/DistanceJoint.h"
+#include "Physics/ForceItem.h"
+#include "Physics/GearItem.h"
+#include "Physics/PolygonItem.h"
 #include "Physics/PhysicsItem.h"
 #include "Physics/PhysicsWorld.h"
 #include "Physics/PrismaticJoint.h"
 #include "Physics/PulleyJoint.h"
 #include "Physics/RectangleItem.h"
 #include "Physics/RevoluteJoint.h"
+#include "Physics/SpringForce.h"
 #include "View/GraphicsView.h"
 
 #include <QAction>
@@ -258,17 +262,23 @@ void Application::setupScriptEngine()
     registerItemType<BodyItem>(scriptEngine);
     registerItemType<RectangleItem>(scriptEngine);
     registerItemType<CircleItem>(scriptEngine);
+    registerItemType<PolygonItem>(scriptEngine);
     registerItemType<BalloonItem>(scriptEngine);
+    registerItemType<GearItem>(scriptEngine);
     registerItemType<JointItem>(scriptEngine);
     registerItemType<DistanceJoint>(scriptEngine);
     registerItemType<RevoluteJoint>(scriptEngine);
     registerItemType<PrismaticJoint>(scriptEngine);
     registerItemType<PulleyJoint>(scriptEngine);
+    registerItemType<ForceItem>(scriptEngine);
+    registerItemType<SpringForce>(scriptEngine);
     qScriptRegisterSequenceMetaType<PhysicsItemList>(scriptEngine);
     qScriptRegisterSequenceMetaType<QList<BodyItem*>>(scriptEngine);
     qScriptRegisterSequenceMetaType<QList<RectangleItem*>>(scriptEngine);
     qScriptRegisterSequenceMetaType<QList<CircleItem*>>(scriptEngine);
+    qScriptRegisterSequenceMetaType<QList<PolygonItem*>>(scriptEngine);
     qScriptRegisterSequenceMetaType<QList<JointItem*>>(scriptEngine);
+    qScriptRegisterSequenceMetaType<QList<ForceItem*>>(scriptEngine);
 
     autoloadScripts(applicationDirPath() + QDir::separator() + QStringLiteral("data")
                     + QDir::separator() + QStringLiteral("scripts") + QStringLiteral("/autoload"));

@@ -8,6 +8,7 @@
 #include "Tools/BalloonAction.h"
 #include "Tools/CircleAction.h"
 #include "Tools/DistanceJointAction.h"
+#include "Tools/GearAction.h"
 #include "Tools/GraphicsViewAction.h"
 #include "Tools/PlayPauseAction.h"
 #include "Tools/PolygonAction.h"
@@ -196,7 +197,7 @@ MainWindow::actionRows()
         {Id::Text, QT_TR_NOOP("Create Text"), QT_TR_NOOP("Creates items from text"), "text", none,
          0, &MainWindow::makeUnavailableTool, nullptr},
         {Id::Gear, QT_TR_NOOP("Create Gear"), QT_TR_NOOP("Creates a gear"), "gear", none, 0,
-         &MainWindow::makeUnavailableTool, nullptr},
+         &MainWindow::makeTool<GearAction>, nullptr},
         {Id::Image, QT_TR_NOOP("Create Image"),
          QT_TR_NOOP("Creates a shape based on the outline of a (png) image"), "image", none, 0,
          &MainWindow::makeUnavailableTool, nullptr},

@@ -34,6 +34,9 @@ double BodyItem::radiansToDegrees(double radians)
 
 BodyItem::BodyItem(double x, double y, double theta)
 {
+    // Box2D asserts on a position or angle that is not finite; scripts can pass anything.
+    if (!std::isfinite(x) || !std::isfinite(y) || !std::isfinite(theta))
+        x = y = theta = 0.0;
     Settings* settings = Settings::instance();
     bodyDefinition.position.Set(float(x), float(y));
     bodyDefinition.angle = float(theta);
@@ -433,6 +436,8 @@ void BodyItem::setLinearVelocity(double x, double y)
 
 void BodyItem::setXForm(double x, double y, double theta)
 {
+    if (!std::isfinite(x) || !std::isfinite(y) || !std::isfinite(theta))
+        return;
     pBody->SetTransform(b2Vec2(float(x), float(y)), float(theta));
     pBody->SetAwake(true);
     update();

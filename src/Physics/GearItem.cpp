@@ -1,5 +1,10 @@
 #include "Physics/GearItem.h"
 
+#include "General/XPolygonF.h"
+#include "Physics/PolygonItem.h"
+#include "View/GearGraphicsItem.h"
+
+#include <QGraphicsEllipseItem>
 #include <cmath>
 
 namespace {
@@ -15,6 +20,12 @@ int toothCount(double pitchCircleRadius, double toothCountDivisor)
 {
     const double count = std::round(pitchCircleRadius * twoPi / toothCountDivisor);
     return std::isfinite(count) && count > 0.0 ? int(qMin(count, maximumToothCount)) : 0;
+}
+
+// The constructor takes any value a script hands in; one that is not finite makes no gear.
+double finiteOrZero(double value)
+{
+    return std::isfinite(value) ? value : 0.0;
 }
 
 } // namespace
@@ -45,4 +56,84 @@ QPolygonF gearOutline(double pitchCircleRadius, double toothSize, double toothCo
     for (const QPolygonF& tooth : gearTeeth(pitchCircleRadius, toothSize, toothCountDivisor))
         outline << tooth;
     return outline;
+}
+
+GearItem::GearItem(double x, double y, double theta, double pitchCircleRadius, double toothSize,
+                   double toothCountDivisor)
+    : BodyItem(x, y, theta)
+    , radius(finiteOrZero(pitchCircleRadius))
+    , size(finiteOrZero(toothSize))
+    , divisor(finiteOrZero(toothCountDivisor))
+{
+    gearGraphicsItem = new GearGraphicsItem(radius, size, divisor);
+    pGraphicsItem = gearGraphicsItem;
+    // Sized once: a later change of the radius does not resize the circle.
+    pitchCircle = new QGraphicsEllipseItem(-radius, -radius, 2 * radius, 2 * radius, pGraphicsItem);
+    pitchCircle->setOpacity(0.5);
+    pitchCircle->setVisible(false);
+    initialiseGraphics(x, y, theta);
+    rebuild();
+}
+
+void GearItem::setShowPitchCircle(bool show)
+{
+    if (show == pitchCircleShown)
+        return;
+    pitchCircleShown = show;
+    pitchCircle->setVisible(show);
+}
+
+void GearItem::setPitchCircleRadius(double pitchCircleRadius)
+{
+    setSize(radius, pitchCircleRadius);
+}
+
+void GearItem::setToothSize(double toothSize)
+{
+    setSize(size, toothSize);
+}
+
+void GearItem::setToothCountDivisor(double toothCountDivisor)
+{
+    setSize(divisor, toothCountDivisor);
+}
+
+void GearItem::setSize(double& field, double value)
+{
+    if (value == field || !(value > 0.0) || !std::isfinite(value))
+        return;
+    field = value;
+    rebuild();
+}
+
+void GearItem::rebuild()
+{
+    destroyFixtures();
+    deleteFixtureDefinitions();
+    // The disc reaches out to the root of the teeth; teeth longer than the radius leave none.
+    const float discRadius = float(radius - size / 2);
+    if (discRadius > 0.0f && std::isfinite(discRadius)) {
+        auto* disc = new b2CircleShape();
+        disc->m_radius = discRadius;
+        disc->m_p.SetZero();
+        createFixture(disc);
+    }
+    for (const QPolygonF& tooth : gearTeeth(radius, size, divisor)) {
+        if (b2PolygonShape* shape = PolygonItem::polygonShape(XPolygonF(tooth)))
+            createFixture(shape);
+    }
+    gearGraphicsItem->setGear(radius, size, divisor);
+}
+
+QPolygonF GearItem::snapPoints() const
+{
+    return QPolygonF() << QPointF(0, 0);
+}
+
+QPolygonF GearItem::worldPolygon() const
+{
+    const QPolygonF outline = gearGraphicsItem->polygon();
+    if (outline.size() < 3)
+        return QPolygonF();
+    return XPolygonF(itemTransform().map(outline));
 }

@@ -2,6 +2,7 @@
 
 #include "Application/Application.h"
 #include "Physics/BodyItem.h"
+#include "Physics/ForceItem.h"
 #include "Physics/JointItem.h"
 
 #include <QAbstractGraphicsShapeItem>
@@ -228,6 +229,11 @@ JointItem* PhysicsItem::toJointItem()
     default:
         return nullptr;
     }
+}
+
+ForceItem* PhysicsItem::toForceItem()
+{
+    return type() == SpringForceType ? static_cast<ForceItem*>(this) : nullptr;
 }
 
 QScriptValue PhysicsItem::toScriptValue() const

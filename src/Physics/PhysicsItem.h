@@ -9,6 +9,7 @@
 #include <QString>
 
 class BodyItem;
+class ForceItem;
 class JointItem;
 class QGraphicsItem;
 class QKeyEvent;
@@ -80,6 +81,8 @@ public:
     BodyItem* toBodyItem();
     // The item as a joint, or null if it is a body or a force.
     JointItem* toJointItem();
+    // The item as a force, or null if it is a body or a joint.
+    ForceItem* toForceItem();
 
     // A script value wrapping this item, for the engine's global object.
     QScriptValue toScriptValue() const;

@@ -1,6 +1,7 @@
 #include "Physics/PhysicsItemList.h"
 
 #include "Physics/BodyItem.h"
+#include "Physics/ForceItem.h"
 #include "Physics/JointItem.h"
 #include "Physics/PhysicsItem.h"
 #include "Physics/PhysicsWorld.h"
@@ -111,6 +112,44 @@ JointItem* PhysicsItemList::jointItemFromGraphicsItem(QGraphicsItem* graphicsIte
 {
     PhysicsItem* item = physicsItemFromGraphicsItem(graphicsItem);
     return item ? item->toJointItem() : nullptr;
+}
+
+QList<ForceItem*> PhysicsItemList::forceItems() const
+{
+    QList<ForceItem*> forces;
+    for (PhysicsItem* item : *this) {
+        if (ForceItem* force = item->toForceItem())
+            forces.append(force);
+    }
+    return forces;
+}
+
+QList<ForceItem*> PhysicsItemList::forceList(BodyItem* pBodyItem) const
+{
+    QList<ForceItem*> forces;
+    if (!pBodyItem)
+        return forces;
+    for (ForceItem* force : forceItems()) {
+        if (force->bodyItems().contains(pBodyItem))
+            forces.append(force);
+    }
+    return forces;
+}
+
+ForceItem* PhysicsItemList::forceItemFromGraphicsItem(QGraphicsItem* graphicsItem) const
+{
+    PhysicsItem* item = physicsItemFromGraphicsItem(graphicsItem);
+    return item ? item->toForceItem() : nullptr;
+}
+
+PhysicsItemList PhysicsItemList::dependentPhysicsItems(BodyItem* pBodyItem) const
+{
+    PhysicsItemList dependents;
+    for (JointItem* joint : jointList(pBodyItem))
+        dependents.append(joint);
+    for (ForceItem* force : forceList(pBodyItem))
+        dependents.append(force);
+    return dependents;
 }
 
 PhysicsItemList PhysicsItemList::activeItems() const

@@ -7,6 +7,7 @@
 #include <QVariant>
 
 class BodyItem;
+class ForceItem;
 class GraphicsScene;
 class JointItem;
 class PhysicsItem;
@@ -38,6 +39,12 @@ public:
     // Joints whose first or second body is the argument.
     QList<JointItem*> jointList(BodyItem* pBodyItem) const;
     JointItem* jointItemFromGraphicsItem(QGraphicsItem* graphicsItem) const;
+    QList<ForceItem*> forceItems() const;
+    // Forces whose bodies include the argument.
+    QList<ForceItem*> forceList(BodyItem* pBodyItem) const;
+    ForceItem* forceItemFromGraphicsItem(QGraphicsItem* graphicsItem) const;
+    // Joints, then forces, that hang on a body.
+    PhysicsItemList dependentPhysicsItems(BodyItem* pBodyItem) const;
     // Union of the scene bounding rectangles of the active items; empty if there are none.
     QRectF boundingRect() const;
     void setSelected(bool selected) const;

@@ -6,12 +6,16 @@
 #include "Physics/BalloonItem.h"
 #include "Physics/ContactListener.h"
 #include "Physics/DistanceJoint.h"
+#include "Physics/ForceItem.h"
+#include "Physics/GearItem.h"
+#include "Physics/PolygonItem.h"
 #include "Physics/JointSoftness.h"
 #include "Physics/PhysicsItem.h"
 #include "Physics/PrismaticJoint.h"
 #include "Physics/PulleyJoint.h"
 #include "Physics/RectangleItem.h"
 #include "Physics/RevoluteJoint.h"
+#include "Physics/SpringForce.h"
 #include "View/GraphicsScene.h"
 #include "View/GraphicsView.h"
 
@@ -405,12 +409,24 @@ QList<JointItem*> PhysicsWorld::jointList(BodyItem* pBodyItem) const
     return itemList.jointList(pBodyItem);
 }
 
+QList<ForceItem*> PhysicsWorld::forceItems() const
+{
+    return itemList.forceItems();
+}
+
+QList<ForceItem*> PhysicsWorld::forceList(BodyItem* pBodyItem) const
+{
+    return itemList.forceList(pBodyItem);
+}
+
+ForceItem* PhysicsWorld::forceItemFromGraphicsItem(QGraphicsItem* graphicsItem) const
+{
+    return itemList.forceItemFromGraphicsItem(graphicsItem);
+}
+
 PhysicsItemList PhysicsWorld::dependentPhysicsItems(BodyItem* pBodyItem) const
 {
-    PhysicsItemList dependents;
-    for (JointItem* joint : jointList(pBodyItem))
-        dependents.append(joint);
-    return dependents;
+    return itemList.dependentPhysicsItems(pBodyItem);
 }
 
 JointItem* PhysicsWorld::jointItemFromGraphicsItem(QGraphicsItem* graphicsItem) const
@@ -482,6 +498,48 @@ BalloonItem* PhysicsWorld::createBalloon(double x, double y, double theta, doubl
     return item;
 }
 
+PolygonItem* PhysicsWorld::createPolygon(QPolygonF polygon)
+{
+    auto* item = new PolygonItem(polygon);
+    addPhysicsItem(item);
+    return item;
+}
+
+GearItem* PhysicsWorld::createGear(double x, double y, double theta, double r)
+{
+    auto* item = new GearItem(x, y, theta, r, 0.4, 0.6);
+    addPhysicsItem(item);
+    return item;
+}
+
+SpringForce* PhysicsWorld::createSpringForce(BodyItem* pItem1, BodyItem* pItem2, QPointF p1,
+                                             QPointF p2, double k, double damping)
+{
+    // A null or removed body is refused: a spring needs two bodies to act between.
+    if (!pItem1 || !pItem2 || !itemList.contains(pItem1) || !itemList.contains(pItem2))
+        return nullptr;
+    auto* item = new SpringForce(pItem1, pItem2, p1, p2, k, damping);
+    addPhysicsItem(item);
+    return item;
+}
+
+PhysicsItem* PhysicsWorld::createPhysicsItem(QString className)
+{
+    PhysicsItem* item = nullptr;
+    if (className == QLatin1String("RectangleItem"))
+        item = new RectangleItem(0, 0, 0, 1.0, 1.0);
+    else if (className == QLatin1String("CircleItem"))
+        item = new CircleItem(0, 0, 0, 0.5);
+    else if (className == QLatin1String("PolygonItem"))
+        item = new PolygonItem(QPolygonF());
+    else if (className == QLatin1String("BalloonItem"))
+        item = new BalloonItem(0, 0, 0, 2.0);
+    else if (className == QLatin1String("GearItem"))
+        item = new GearItem(0, 0, 0, 0.5, 0.4, 0.6);
+    addPhysicsItem(item);
+    return item;
+}
+
 DistanceJoint* PhysicsWorld::createDistanceJoint(BodyItem* pItem1, BodyItem* pItem2, QPointF p1,
                                                  QPointF p2)
 {
@@ -541,6 +599,8 @@ void PhysicsWorld::removePhysicsItem(PhysicsItem* item)
         removeBody(body);
     else if (JointItem* joint = item->toJointItem())
         removeJoint(joint);
+    else if (ForceItem* force = item->toForceItem())
+        removeForce(force);
     else
         detachItem(item);
 }
@@ -553,7 +613,16 @@ void PhysicsWorld::removeBody(BodyItem* pBodyItem)
     // the body behind the joint's back.
     for (JointItem* joint : jointList(pBodyItem))
         removeJoint(joint);
+    for (ForceItem* force : forceList(pBodyItem))
+        removeForce(force);
     detachItem(pBodyItem);
+}
+
+void PhysicsWorld::removeForce(ForceItem* pForceItem)
+{
+    if (!pForceItem || !itemList.contains(pForceItem))
+        return;
+    detachItem(pForceItem);
 }
 
 void PhysicsWorld::removeJoint(JointItem* joint)

@@ -13,10 +13,14 @@
 
 class BodyItem;
 class DistanceJoint;
+class ForceItem;
+class GearItem;
 class JointItem;
+class PolygonItem;
 class PrismaticJoint;
 class PulleyJoint;
 class RevoluteJoint;
+class SpringForce;
 class BalloonItem;
 class CircleItem;
 class RectangleItem;
@@ -131,6 +135,8 @@ public slots:
     QList<BodyItem*> bodyItems() const;
     QList<JointItem*> jointItems() const;
     QList<JointItem*> jointList(BodyItem* pBodyItem) const;
+    QList<ForceItem*> forceItems() const;
+    QList<ForceItem*> forceList(BodyItem* pBodyItem) const;
     // The joints and then the forces that hang on a body.
     PhysicsItemList dependentPhysicsItems(BodyItem* pBodyItem) const;
     PhysicsItem* physicsItemFromName(QString name) const;
@@ -140,6 +146,7 @@ public slots:
     // whose item has been removed.
     BodyItem* bodyItemFromBody(b2Body* body) const;
     JointItem* jointItemFromGraphicsItem(QGraphicsItem* graphicsItem) const;
+    ForceItem* forceItemFromGraphicsItem(QGraphicsItem* graphicsItem) const;
     QRectF itemsBoundingRect() const;
     bool contains(PhysicsItem* item) const;
     void selectAll();
@@ -149,6 +156,16 @@ public slots:
     RectangleItem* createRectangle(double x, double y, double theta, double w, double h);
     CircleItem* createCircle(double x, double y, double theta, double r);
     BalloonItem* createBalloon(double x, double y, double theta, double r);
+    // The outline in world coordinates; the body stands at the centre of its bounding box.
+    PolygonItem* createPolygon(QPolygonF polygon);
+    // Tooth size 0.4 and divisor 0.6, not the gear tool's settings.
+    GearItem* createGear(double x, double y, double theta, double r);
+    // Points in world coordinates; both bodies must be in the world, else nothing is made
+    // and the result is null.
+    SpringForce* createSpringForce(BodyItem* pItem1, BodyItem* pItem2, QPointF p1, QPointF p2,
+                                   double k = 500.0, double damping = 5.0);
+    // A body of default geometry at the origin by its exact class name, else null.
+    PhysicsItem* createPhysicsItem(QString className);
     // Joint factories: points in world coordinates; a null second body item joins the first
     // to the background body.
     DistanceJoint* createDistanceJoint(BodyItem* pItem1, BodyItem* pItem2, QPointF p1, QPointF p2);
@@ -161,6 +178,7 @@ public slots:
     void removePhysicsItem(PhysicsItem* item);
     void removeBody(BodyItem* pBodyItem);
     void removeJoint(JointItem* joint);
+    void removeForce(ForceItem* pForceItem);
     void removeAllDynamicBodies();
     void removeAllStaticBodies();
     void removeAllBodies();

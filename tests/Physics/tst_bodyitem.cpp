@@ -150,6 +150,19 @@ private slots:
         QCOMPARE(body->mass(), 6.0);
     }
 
+    void nonFiniteGeometryStaysAwayFromBox2D()
+    {
+        RectangleItem* body = world->createRectangle(NAN, 1, 0, 1, 1);
+        QCOMPARE(body->position(), QPointF(0, 0));
+        body->setXForm(2, 3, 0);
+        body->setPositionX(double(INFINITY));
+        body->setAngle(double(NAN));
+        body->setXForm(NAN, 0, 0);
+        QCOMPARE(body->position(), QPointF(2, 3));
+        QCOMPARE(body->angle(), 0.0);
+        world->step();
+    }
+
     void forcesActOnDynamicBodiesOnly()
     {
         world->setGravityY(0.0);

@@ -1,6 +1,7 @@
 #include "Application/Settings.h"
 #include "General/XPolygonF.h"
 #include "NemuGeometry/Geometry.h"
+#include "Physics/GearItem.h"
 #include "Physics/PhysicsWorld.h"
 #include "Physics/PolygonItem.h"
 
@@ -22,6 +23,13 @@ class TestPolygonItem : public QObject
         auto* polygon = new PolygonItem(outline);
         world->addPhysicsItem(polygon);
         return polygon;
+    }
+
+    GearItem* addGear(double r, double toothSize, double divisor)
+    {
+        auto* gear = new GearItem(0, 0, 0, r, toothSize, divisor);
+        world->addPhysicsItem(gear);
+        return gear;
     }
 
     static QPolygonF square(double left, double bottom, double side)
@@ -68,13 +76,19 @@ private slots:
         QTest::addColumn<QStringList>("ownProperties");
         QTest::newRow("polygon") << "PolygonItem"
                                  << "Polygon" << QStringList {"ShowWireframe", "GeometryString"};
+        QTest::newRow("gear") << "GearItem"
+                              << "Gear"
+                              << QStringList {"ShowPitchCircle", "PitchCircleRadius", "ToothSize",
+                                              "ToothCountDivisor"};
     }
     void declaredProperties()
     {
         QFETCH(QString, className);
         QFETCH(QString, displayName);
         QFETCH(QStringList, ownProperties);
-        BodyItem* body = addPolygon(square(0, 0, 1));
+        BodyItem* body = className == QLatin1String("GearItem")
+            ? static_cast<BodyItem*>(addGear(1, 0.4, 0.6))
+            : addPolygon(square(0, 0, 1));
         const QMetaObject* meta = body->metaObject();
         QCOMPARE(QString::fromLatin1(meta->className()), className);
         const int info = meta->indexOfClassInfo(className.toLatin1());
@@ -300,6 +314,130 @@ private slots:
         QVERIFY(qAbs(polygon->worldPolygon().boundingRect().top()) < 0.02);
     }
 
+    void teethOfGear_data()
+    {
+        QTest::addColumn<double>("radius");
+        QTest::addColumn<double>("divisor");
+        QTest::addColumn<int>("teeth");
+        QTest::newRow("r 1, d 0.6") << 1.0 << 0.6 << 10;
+        QTest::newRow("r 0.5, d 0.6") << 0.5 << 0.6 << 5;
+        QTest::newRow("r 2, d 0.3") << 2.0 << 0.3 << 42;
+        QTest::newRow("rounds to nearest") << 1.0 << 2.5 << 3;
+        QTest::newRow("too small for a tooth") << 0.04 << 0.6 << 0;
+        QTest::newRow("not a number") << qQNaN() << 0.6 << 0;
+        QTest::newRow("no divisor") << 1.0 << 0.0 << 0;
+        QTest::newRow("bounded count") << 1e6 << 0.6 << 10000;
+    }
+    void teethOfGear()
+    {
+        QFETCH(double, radius);
+        QFETCH(double, divisor);
+        QFETCH(int, teeth);
+        const QList<QPolygonF> polygons = gearTeeth(radius, 0.4, divisor);
+        QCOMPARE(polygons.size(), teeth);
+        const QPolygonF outline = gearOutline(radius, 0.4, divisor);
+        QCOMPARE(outline.size(), 4 * teeth);
+        if (teeth == 0)
+            return;
+        QCOMPARE(outline.mid(4, 4), polygons.at(1));
+        // Root, two tip points, root; the first tooth starts on the x axis.
+        const QPolygonF& first = polygons.first();
+        QCOMPARE(first.first(), QPointF(radius - 0.2, 0));
+        const double quarter = 2 * M_PI / teeth / 4;
+        QVERIFY(qAbs(QLineF(QPointF(), first.at(1)).length() - (radius + 0.2)) < 1e-9);
+        QVERIFY(qAbs(std::atan2(first.at(2).y(), first.at(2).x()) - 2 * quarter) < 1e-6);
+        QVERIFY(qAbs(QLineF(QPointF(), first.at(3)).length() - (radius - 0.2)) < 1e-9);
+    }
+
+    void gearShapes_data()
+    {
+        QTest::addColumn<double>("radius");
+        QTest::addColumn<double>("toothSize");
+        QTest::addColumn<int>("shapes");
+        QTest::newRow("disc and ten teeth") << 1.0 << 0.4 << 11;
+        QTest::newRow("teeth beyond the centre leave no disc") << 1.0 << 2.5 << 10;
+        QTest::newRow("no size at all") << qQNaN() << 0.4 << 0;
+    }
+    void gearShapes()
+    {
+        QFETCH(double, radius);
+        QFETCH(double, toothSize);
+        QFETCH(int, shapes);
+        GearItem* gear = addGear(radius, toothSize, 0.6);
+        QCOMPARE(gear->property("Shapes").toInt(), shapes);
+        world->step();
+    }
+
+    void gearRebuildsOnSetters()
+    {
+        GearItem* gear = addGear(1.0, 0.4, 0.6);
+        QCOMPARE(gear->shapeCount(), 11);
+        QCOMPARE(gear->worldPolygon().size(), 40);
+        const QList<b2Fixture*> fixtures = gear->shapes();
+        gear->setToothSize(0.4);
+        gear->setToothSize(0.0);
+        gear->setToothSize(-1.0);
+        gear->setToothCountDivisor(qQNaN());
+        gear->setPitchCircleRadius(qInf());
+        QCOMPARE(gear->shapes(), fixtures);
+        QCOMPARE(gear->toothSize(), 0.4);
+
+        gear->setProperty("ToothCountDivisor", 0.3);
+        QCOMPARE(gear->shapeCount(), 22);
+        gear->setProperty("PitchCircleRadius", 2.0);
+        QCOMPARE(gear->shapeCount(), 43);
+        QCOMPARE(gear->worldPolygon().size(), 4 * 42);
+        gear->setProperty("ToothSize", 0.2);
+        const b2Fixture* disc = gear->shapes().first();
+        QCOMPARE(disc->GetShape()->m_radius, 1.9f);
+        QVERIFY(qAbs(gear->worldPolygon().boundingRect().right() - 2.1) < 0.01);
+
+        // Sizes that Box2D would weld into nothing leave out the teeth, not the program.
+        gear->setToothCountDivisor(0.0001);
+        QCOMPARE(gear->shapeCount(), 1);
+    }
+
+    void gearIgnoresScaleAndSnapsAtCentre()
+    {
+        GearItem* gear = addGear(1.0, 0.4, 0.6);
+        const QPolygonF outline = gear->worldPolygon();
+        gear->scale(2.0);
+        QCOMPARE(gear->worldPolygon(), outline);
+        QCOMPARE(gear->snapPoints(), QPolygonF() << QPointF(0, 0));
+        QCOMPARE(gear->property("PitchCircleRadius").toDouble(), 1.0);
+    }
+
+    void pitchCircleShowsTheRadiusOfConstruction()
+    {
+        GearItem* gear = addGear(1.0, 0.4, 0.6);
+        auto* circle
+            = qgraphicsitem_cast<QGraphicsEllipseItem*>(gear->graphicsItem()->childItems().first());
+        QVERIFY(circle);
+        QVERIFY(!circle->isVisible());
+        QCOMPARE(circle->opacity(), 0.5);
+        gear->setShowPitchCircle(true);
+        QVERIFY(circle->isVisible());
+        QCOMPARE(circle->rect(), QRectF(-1, -1, 2, 2));
+        gear->setPitchCircleRadius(2.0);
+        QCOMPARE(circle->rect(), QRectF(-1, -1, 2, 2));
+    }
+
+    void gearsMesh()
+    {
+        world->setGravityY(0.0);
+        GearItem* driver = addGear(1.0, 0.4, 0.6);
+        GearItem* driven = new GearItem(2.0, 0, 0, 1.0, 0.4, 0.6);
+        world->addPhysicsItem(driven);
+        driver->setBodyType(BodyItem::KinematicBody);
+        driven->setAngle(18.0); // teeth into gaps
+        b2RevoluteJointDef pin;
+        pin.Initialize(world->backgroundBody(), driven->body(), b2Vec2(2.0f, 0.0f));
+        world->box2D()->CreateJoint(&pin);
+        driver->setAngularVelocity(1.0);
+        for (int i = 0; i < 120; ++i)
+            world->step();
+        QVERIFY(driven->angularVelocity() < -0.5);
+    }
 };
 
 QTEST_MAIN(TestPolygonItem)

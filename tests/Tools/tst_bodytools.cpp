@@ -1,9 +1,12 @@
 #include "Commands/BodyCommand.h"
+#include "Commands/JointCommand.h"
 #include "Physics/BalloonItem.h"
 #include "Physics/PolygonItem.h"
 #include "Physics/RectangleItem.h"
+#include "Physics/RevoluteJoint.h"
 #include "ToolFixture.h"
 #include "Tools/PolygonAction.h"
+#include "View/GearGraphicsItem.h"
 #include "WindowTestMain.h"
 
 #include <QGraphicsEllipseItem>
@@ -14,6 +17,11 @@
 
 using Id = MainWindow::ActionId;
 Q_DECLARE_METATYPE(MainWindow::ActionId)
+
+namespace {
+// Metres: where the gear tests put the centre of their gear.
+const QPointF gearCentre(-1.0, 1.0);
+} // namespace
 
 // The tools that draw one body, driven through the real view with the mouse: the body each
 // makes in world coordinates, sizes below the minimum, Escape and a change of tool in the
@@ -52,6 +60,9 @@ class TestBodyTools : public QObject, private ToolFixture
         bool snapToGrid;
         bool snapToObjects;
         double gridSize;
+        bool gearCreateRevoluteJoint;
+        double gearToothSize;
+        double gearToothCountDivisor;
     } saved;
 
 private slots:
@@ -61,12 +72,17 @@ private slots:
         saved.snapToGrid = Settings::instance()->snapToGrid;
         saved.snapToObjects = Settings::instance()->snapToObjects;
         saved.gridSize = Settings::instance()->gridSize;
+        saved.gearCreateRevoluteJoint = Settings::instance()->gearCreateRevoluteJoint;
+        saved.gearToothSize = Settings::instance()->gearToothSize;
+        saved.gearToothCountDivisor = Settings::instance()->gearToothCountDivisor;
     }
 
     void init()
     {
         newEmptyScene();
         snapNowhere();
+        // One gesture, one entry; the gear's axle has its own tests.
+        Settings::instance()->setGearCreateRevoluteJoint(false);
         QVERIFY(view()->viewport()->rect().contains(gestures().pixel(QPointF(-6, -5))));
         QVERIFY(view()->viewport()->rect().contains(gestures().pixel(QPointF(6, 5))));
     }
@@ -77,6 +93,9 @@ private slots:
         Settings::instance()->setSnapToObjects(saved.snapToObjects);
         Settings::instance()->setGridSize(saved.gridSize);
         view()->updateGrid();
+        Settings::instance()->setGearCreateRevoluteJoint(saved.gearCreateRevoluteJoint);
+        Settings::instance()->setGearToothSize(saved.gearToothSize);
+        Settings::instance()->setGearToothCountDivisor(saved.gearToothCountDivisor);
         newEmptyScene();
     }
 
@@ -236,6 +255,7 @@ private slots:
         QTest::newRow("rectangle") << Id::Rectangle;
         QTest::newRow("circle") << Id::Circle;
         QTest::newRow("polygon") << Id::Polygon;
+        QTest::newRow("gear") << Id::Gear;
     }
 
     void eachBodyGetsThePreviewsFreshBrush()
@@ -257,6 +277,95 @@ private slots:
         }
         // Random colours, which repeat about once in twenty million.
         QVERIFY(colours.first() != colours.last());
+    }
+
+    void gearFromCentreAndRadius_data()
+    {
+        QTest::addColumn<QPointF>("rim");
+        QTest::addColumn<bool>("leastRadius");
+        QTest::newRow("dragged") << QPointF(1.5, 2.0) << false;
+        QTest::newRow("shorter than a quarter metre") << QPointF(-0.9, 1.1) << true;
+        QTest::newRow("click") << gearCentre << true;
+    }
+
+    void gearFromCentreAndRadius()
+    {
+        QFETCH(QPointF, rim);
+        QFETCH(bool, leastRadius);
+        // Read at the moment of use.
+        Settings::instance()->setGearToothSize(0.3);
+        Settings::instance()->setGearToothCountDivisor(0.5);
+        selectTool(Id::Gear);
+        gestures().drag(gearCentre, rim);
+
+        QCOMPARE(stack()->count(), 1);
+        QCOMPARE(stack()->text(0), QStringLiteral("Gear"));
+        auto* gear = topItem<BodyCommand, BodyItem>();
+        QVERIFY(gear);
+        QCOMPARE(gear->type(), int(PhysicsItem::GearItemType));
+        const QPointF centre = gestures().onPixel(gearCentre);
+        QVERIFY(near(gear->positionX(), centre.x()));
+        QVERIFY(near(gear->positionY(), centre.y()));
+        const double radius = leastRadius ? 0.25 : QLineF(centre, gestures().onPixel(rim)).length();
+        QCOMPARE(gear->property("PitchCircleRadius").toDouble(), radius);
+        QCOMPARE(gear->property("ToothSize").toDouble(), 0.3);
+        QCOMPARE(gear->property("ToothCountDivisor").toDouble(), 0.5);
+        QVERIFY(shownPreviews().isEmpty());
+    }
+
+    void gearPreviewShowsTheTeethToBe()
+    {
+        Settings::instance()->setGearToothSize(0.3);
+        Settings::instance()->setGearToothCountDivisor(0.5);
+        selectTool(Id::Gear);
+        const QPointF rim(1.0, 1.0);
+        gestures().pressAndDrag(gearCentre, rim);
+        auto* preview = shownPreview<GearGraphicsItem>();
+        QVERIFY(preview);
+        const QPointF centre = gestures().onPixel(gearCentre);
+        QCOMPARE(preview->pos(), centre);
+        QCOMPARE(preview->pitchCircleRadius(), QLineF(centre, gestures().onPixel(rim)).length());
+        QCOMPARE(preview->toothSize(), 0.3);
+        QCOMPARE(preview->toothCountDivisor(), 0.5);
+        QVERIFY(!preview->polygon().isEmpty());
+        gestures().move(QPointF(-0.95, 1.0), Qt::LeftButton);
+        QCOMPARE(preview->pitchCircleRadius(), 0.25);
+    }
+
+    void gearWithItsAxle_data()
+    {
+        QTest::addColumn<bool>("onBody");
+        QTest::newRow("on empty space, pinned to the background") << false;
+        QTest::newRow("on a body, pinned to it") << true;
+    }
+
+    void gearWithItsAxle()
+    {
+        QFETCH(bool, onBody);
+        BodyItem* below
+            = onBody ? world()->createRectangle(gearCentre.x(), gearCentre.y(), 0, 1, 1) : nullptr;
+        Settings::instance()->setGearCreateRevoluteJoint(true);
+        selectTool(Id::Gear);
+        const QPointF rim(1.5, 1.0);
+        gestures().drag(gearCentre, rim);
+
+        // Two entries, so that the axle can be undone on its own.
+        QCOMPARE(stack()->count(), 2);
+        QCOMPARE(stack()->text(0), QStringLiteral("Gear"));
+        QCOMPARE(stack()->text(1), QStringLiteral("Revolute Joint"));
+        BodyItem* gear = static_cast<const BodyCommand*>(stack()->command(0))->item();
+        auto* axle = topItem<JointCommand, RevoluteJoint>();
+        QVERIFY(axle);
+        QCOMPARE(axle->bodyItem1(), gear);
+        QCOMPARE(axle->bodyItem2(), below);
+        const QPointF centre = gestures().onPixel(gearCentre);
+        const double radius = QLineF(centre, gestures().onPixel(rim)).length();
+        QVERIFY(near(axle->radius(), radius / 5));
+        QVERIFY(nearPoint(axle->anchor1(), centre));
+
+        stack()->undo();
+        QVERIFY(!axle->isActive());
+        QVERIFY(gear->isActive());
     }
 
     void polygonFromClicks()
@@ -413,6 +522,7 @@ private slots:
         QTest::newRow("circle") << Id::Circle;
         QTest::newRow("balloon") << Id::Balloon;
         QTest::newRow("polygon") << Id::Polygon;
+        QTest::newRow("gear") << Id::Gear;
     }
 
     void escapeDropsTheGesture()
