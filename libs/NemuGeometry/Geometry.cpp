@@ -36,6 +36,12 @@ QPointF pointFromString(const QString& text, bool* ok)
     return valid ? QPointF(x, y) : QPointF();
 }
 
+QString pointToString(const QPointF& point)
+{
+    return QStringLiteral("%1,%2").arg(QString::number(point.x(), 'g', 6),
+                                       QString::number(point.y(), 'g', 6));
+}
+
 QString polygonToString(const QPolygonF& polygon)
 {
     QStringList points;

@@ -14,6 +14,9 @@ namespace Geometry {
 // false.
 QPointF pointFromString(const QString& text, bool* ok = nullptr);
 
+// "x,y" with six significant digits each: the form in which anchors are shown.
+QString pointToString(const QPointF& point);
+
 // The vertices in order as "x,y" points separated by blanks, each coordinate in the shortest
 // form that reads back to the same double.
 QString polygonToString(const QPolygonF& polygon);

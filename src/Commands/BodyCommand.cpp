@@ -32,8 +32,7 @@ void BodyCommand::redo()
     // Values first, then activation: a body's properties do not need a live body.
     XPropertyList::write(body, properties);
     body->setActive(true);
-    PhysicsWorld::instance()->graphicsScene()->clearSelection();
-    body->graphicsItem()->setSelected(true);
+    selectOnly(body);
 }
 
 void BodyCommand::undo()

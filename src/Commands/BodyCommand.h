@@ -2,11 +2,10 @@
 
 #include "Commands/PhysicsWorldCommand.h"
 #include "General/XPropertyList.h"
+#include "Physics/BodyItem.h"
 
 #include <QBrush>
 #include <QPointer>
-
-class BodyItem;
 
 // Base of the commands that add one body. The constructor puts the new body into the world,
 // inactive, and keeps its values as built; redo writes them back and activates it, undo

@@ -1,8 +1,6 @@
 #pragma once
 
 #include "Commands/BodyCommand.h"
-// Complete, for the base's guarded pointer.
-#include "Physics/BodyItem.h"
 
 // Adds a gear; theta in radians, the pitch circle radius and the tooth size in metres, the
 // tooth count divisor the arc length of the pitch circle that one tooth takes up. item() is

@@ -29,8 +29,7 @@ void JointCommand::redo()
         return;
     joint->setActive(true);
     XPropertyList::write(joint, properties);
-    PhysicsWorld::instance()->graphicsScene()->clearSelection();
-    joint->graphicsItem()->setSelected(true);
+    selectOnly(joint);
 }
 
 void JointCommand::undo()

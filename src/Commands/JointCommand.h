@@ -2,10 +2,9 @@
 
 #include "Commands/PhysicsWorldCommand.h"
 #include "General/XPropertyList.h"
+#include "Physics/JointItem.h"
 
 #include <QPointer>
-
-class JointItem;
 
 // Base of the commands that add one joint. The joint's values are read while its b2Joint
 // still exists, then the joint is switched off (which destroys the b2Joint) and added to the

@@ -1,6 +1,10 @@
 #include "Commands/PhysicsWorldCommand.h"
 
+#include "Physics/PhysicsItem.h"
 #include "Physics/PhysicsWorld.h"
+#include "View/GraphicsScene.h"
+
+#include <QGraphicsItem>
 
 PhysicsWorldCommand::PhysicsWorldCommand(QUndoCommand* parent)
     : Command(parent)
@@ -19,4 +23,10 @@ void PhysicsWorldCommand::redo()
 void PhysicsWorldCommand::undo()
 {
     PhysicsWorld::instance()->setState(physicsWorldState);
+}
+
+void PhysicsWorldCommand::selectOnly(PhysicsItem* item)
+{
+    PhysicsWorld::instance()->graphicsScene()->clearSelection();
+    item->graphicsItem()->setSelected(true);
 }

@@ -1,8 +1,6 @@
 #pragma once
 
 #include "Commands/BodyCommand.h"
-// Complete, for the base's guarded pointer.
-#include "Physics/BodyItem.h"
 
 #include <QPolygonF>
 

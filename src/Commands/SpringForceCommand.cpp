@@ -33,8 +33,7 @@ void SpringForceCommand::redo()
         return;
     XPropertyList::write(force, properties);
     force->setActive(true);
-    PhysicsWorld::instance()->graphicsScene()->clearSelection();
-    force->graphicsItem()->setSelected(true);
+    selectOnly(force);
 }
 
 void SpringForceCommand::undo()

@@ -1,5 +1,6 @@
 #include "Physics/JointItem.h"
 
+#include "NemuGeometry/Geometry.h"
 #include "Physics/BodyItem.h"
 #include "Physics/PhysicsWorld.h"
 
@@ -7,14 +8,6 @@
 
 // Joints stack above all bodies, whose counter starts at 0.
 double JointItem::zValueCounter = 100000.0;
-
-namespace {
-QString pointText(const QPointF& point)
-{
-    return QStringLiteral("%1,%2").arg(QString::number(point.x(), 'g', 6),
-                                       QString::number(point.y(), 'g', 6));
-}
-} // namespace
 
 JointItem::JointItem(BodyItem* pItem1, BodyItem* pItem2, b2JointDef* definition)
     : pDefinition(definition)
@@ -132,12 +125,12 @@ QString JointItem::bodyItem2Name() const
 
 QString JointItem::anchor1() const
 {
-    return pointText(anchorA());
+    return Nemu::Geometry::pointToString(anchorA());
 }
 
 QString JointItem::anchor2() const
 {
-    return pointText(anchorB());
+    return Nemu::Geometry::pointToString(anchorB());
 }
 
 double JointItem::radiansToDegrees(double radians)

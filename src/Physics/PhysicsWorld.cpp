@@ -8,9 +8,9 @@
 #include "Physics/DistanceJoint.h"
 #include "Physics/ForceItem.h"
 #include "Physics/GearItem.h"
-#include "Physics/PolygonItem.h"
 #include "Physics/JointSoftness.h"
 #include "Physics/PhysicsItem.h"
+#include "Physics/PolygonItem.h"
 #include "Physics/PrismaticJoint.h"
 #include "Physics/PulleyJoint.h"
 #include "Physics/RectangleItem.h"
@@ -115,26 +115,27 @@ int PhysicsWorld::jointCount() const
 
 void PhysicsWorld::setGravityX(double gravityX)
 {
-    b2Vec2 gravity = world->GetGravity();
-    if (double(gravity.x) == gravityX)
-        return;
-    gravity.x = float(gravityX);
-    world->SetGravity(gravity);
-    for (b2Body* body = world->GetBodyList(); body; body = body->GetNext())
-        body->SetAwake(true);
-    emit gravityXChanged(gravityX);
+    if (setGravity(gravityX, world->GetGravity().y))
+        emit gravityXChanged(gravityX);
 }
 
 void PhysicsWorld::setGravityY(double gravityY)
 {
-    b2Vec2 gravity = world->GetGravity();
-    if (double(gravity.y) == gravityY)
-        return;
-    gravity.y = float(gravityY);
-    world->SetGravity(gravity);
+    if (setGravity(world->GetGravity().x, gravityY))
+        emit gravityYChanged(gravityY);
+}
+
+bool PhysicsWorld::setGravity(double x, double y)
+{
+    // Compared with the stored floats widened, so that re-setting a value read back is no
+    // change.
+    const b2Vec2 gravity = world->GetGravity();
+    if (double(gravity.x) == x && double(gravity.y) == y)
+        return false;
+    world->SetGravity(b2Vec2(float(x), float(y)));
     for (b2Body* body = world->GetBodyList(); body; body = body->GetNext())
         body->SetAwake(true);
-    emit gravityYChanged(gravityY);
+    return true;
 }
 
 void PhysicsWorld::setStepFrequency(int stepFrequency)

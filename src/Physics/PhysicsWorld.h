@@ -191,6 +191,8 @@ private:
     // deleted only when the outermost loop has ended, so no loop and no buffered contact
     // touches a freed item or fixture.
     class IterationGuard;
+    // Stores gravity in m/s² and wakes every body; false if nothing changed.
+    bool setGravity(double x, double y);
     void deleteRemovedItems();
     // Takes an item out of the scene, the list and the script globals and deletes it, or,
     // inside a loop over the items, marks it for deletion when the loop ends.

@@ -1,5 +1,6 @@
 #include "Physics/SpringForce.h"
 
+#include "NemuGeometry/Geometry.h"
 #include "Physics/BodyItem.h"
 #include "View/SpringGraphicsItem.h"
 
@@ -154,5 +155,5 @@ QString SpringForce::anchorText(const BodyItem* body, const b2Vec2& localAnchor)
     if (!body)
         return QString();
     const b2Vec2 anchor = body->body()->GetWorldPoint(localAnchor);
-    return QStringLiteral("%1,%2").arg(anchor.x, 0, 'g').arg(anchor.y, 0, 'g');
+    return Nemu::Geometry::pointToString(QPointF(anchor.x, anchor.y));
 }

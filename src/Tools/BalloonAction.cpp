@@ -2,8 +2,6 @@
 
 #include "Commands/BalloonCommand.h"
 #include "NemuToolbox/Toolbox.h"
-// Complete, for the command's guarded pointer.
-#include "Physics/BodyItem.h"
 
 #include <QAbstractGraphicsShapeItem>
 #include <QRadialGradient>

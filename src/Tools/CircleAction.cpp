@@ -1,8 +1,6 @@
 #include "Tools/CircleAction.h"
 
 #include "Commands/CircleCommand.h"
-// Complete, for the command's guarded pointer.
-#include "Physics/BodyItem.h"
 
 #include <QLineF>
 

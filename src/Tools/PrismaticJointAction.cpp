@@ -1,7 +1,6 @@
 #include "Tools/PrismaticJointAction.h"
 
 #include "Commands/PrismaticJointCommand.h"
-#include "Physics/JointItem.h"
 
 PrismaticJointAction::PrismaticJointAction(QObject* parent, GraphicsView* graphicsView)
     : DistanceJointAction(QIcon(QStringLiteral(":/icons/Pr.png")), tr("Create Prismatic Joint"),

@@ -1,8 +1,6 @@
 #include "Tools/RectangleAction.h"
 
 #include "Commands/RectangleCommand.h"
-// Complete, for the command's guarded pointer.
-#include "Physics/BodyItem.h"
 
 #include <QGuiApplication>
 

@@ -2,7 +2,6 @@
 
 #include "Application/Settings.h"
 #include "Commands/RevoluteJointCommand.h"
-#include "Physics/JointItem.h"
 #include "View/GraphicsScene.h"
 #include "View/RevoluteJointGraphicsItem.h"
 
