@@ -5,6 +5,8 @@
 #include "Gui/MainWindow.h"
 #include "Physics/BodyItem.h"
 #include "Physics/PhysicsWorld.h"
+#include "Physics/RevoluteJoint.h"
+#include "Physics/SpringForce.h"
 #include "Tools/GraphicsViewAction.h"
 #include "View/GraphicsScene.h"
 #include "View/GridGraphicsItem.h"
@@ -26,6 +28,8 @@ const int frameCountInterval = 1000; // milliseconds
 // A wheel notch of 120 eighths of a degree resizes by this factor or turns by 4 degrees.
 const double wheelScaleFactor = 1.1;
 const double wheelDeltaPerDegree = 30.0;
+const double wheelDeltaPerMotorSpeed = 480.0;
+const double wheelDeltaPerMetre = 240.0;
 
 // White, with a texture matrix of 20 texture pixels per metre, y turned over.
 QBrush defaultBackground()
@@ -317,17 +321,29 @@ void GraphicsView::wheelEvent(QWheelEvent* event)
         else
             zoomOut();
     } else if (modifiers == Qt::ControlModifier) {
-        scaleSelectedBodies(delta);
+        adjustSelectedItems(delta);
     } else if (modifiers == Qt::ShiftModifier) {
         rotateSelectedBodies(delta);
     }
 }
 
-void GraphicsView::scaleSelectedBodies(int delta)
+void GraphicsView::adjustSelectedItems(int delta)
 {
     const double factor = delta > 0 ? wheelScaleFactor : 1.0 / wheelScaleFactor;
-    for (BodyItem* body : selectedBodies())
-        body->scale(factor);
+    for (PhysicsItem* item : PhysicsItemList(static_cast<GraphicsScene*>(scene()))) {
+        if (BodyItem* body = item->toBodyItem()) {
+            body->scale(factor);
+        } else if (item->type() == PhysicsItem::RevoluteJointType) {
+            // A notch of 120 adds a quarter of a radian per second to the motor.
+            auto* joint = static_cast<RevoluteJoint*>(item);
+            joint->setMotorSpeed(delta / wheelDeltaPerMotorSpeed + joint->motorSpeed());
+            joint->setMotorEnabled(joint->motorSpeed() != 0.0);
+        } else if (item->type() == PhysicsItem::SpringForceType) {
+            // A notch of 120 lengthens the spring by half a metre.
+            auto* spring = static_cast<SpringForce*>(item);
+            spring->setDesiredDistance(delta / wheelDeltaPerMetre + spring->desiredDistance());
+        }
+    }
 }
 
 void GraphicsView::rotateSelectedBodies(int delta)

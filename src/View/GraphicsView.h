@@ -87,8 +87,10 @@ private:
     void chooseViewport();
     // Multiplies the zoom by 2 to the power `exponent`.
     void zoomBy(double exponent);
-    // Resizes or turns the selected bodies by a wheel turn of `delta` eighths of a degree.
-    void scaleSelectedBodies(int delta);
+    // Wheel edits of the selection by a turn of `delta` eighths of a degree. With Ctrl:
+    // bodies grow or shrink, revolute motors speed up or slow down, springs lengthen or
+    // shorten; with Shift: bodies turn.
+    void adjustSelectedItems(int delta);
     void rotateSelectedBodies(int delta);
     QList<BodyItem*> selectedBodies() const;
     // Runs an item script for each item, as long as the item is still in the world.

@@ -3,6 +3,8 @@
 #include "Physics/CircleItem.h"
 #include "Physics/PhysicsWorld.h"
 #include "Physics/RectangleItem.h"
+#include "Physics/RevoluteJoint.h"
+#include "Physics/SpringForce.h"
 #include "TestItem.h"
 #include "Tools/GraphicsViewAction.h"
 #include "View/GraphicsScene.h"
@@ -568,6 +570,27 @@ private slots:
         QCOMPARE(unselected->width(), 2.0);
         QCOMPARE(unselected->angle(), 0.0);
         QVERIFY(qFuzzyCompare(view->scale(), scaleBefore * std::pow(2.0, zoomExponent)));
+    }
+
+    void wheelEditsJointsAndSprings()
+    {
+        RectangleItem* box = world->createRectangle(0, 5, 0, 1, 1);
+        RectangleItem* other = world->createRectangle(3, 5, 0, 1, 1);
+        RevoluteJoint* joint = world->createRevoluteJoint(box, nullptr, QPointF(0, 5));
+        SpringForce* spring
+            = world->createSpringForce(box, other, QPointF(0, 5), QPointF(3, 5), 100.0, 1.0);
+        joint->graphicsItem()->setSelected(true);
+        spring->graphicsItem()->setSelected(true);
+        sendWheel(240, Qt::ControlModifier);
+        QCOMPARE(joint->motorSpeed(), 0.5);
+        QVERIFY(joint->motorEnabled());
+        QCOMPARE(spring->desiredDistance(), 4.0);
+        sendWheel(-240, Qt::ControlModifier);
+        QCOMPARE(joint->motorSpeed(), 0.0);
+        QVERIFY(!joint->motorEnabled());
+        QCOMPARE(spring->desiredDistance(), 3.0);
+        // Bodies that are not selected keep their size.
+        QCOMPARE(box->width(), 1.0);
     }
 
     void toolGetsMouseEventsAndPanning()
