@@ -34,7 +34,7 @@ class TestBodyTools : public QObject, private ToolFixture
     QPointF viewCentre() const { return view()->mapToScene(view()->viewport()->rect().center()); }
 
     // Starts the gesture of a tool, without finishing it: a drag, or two clicks and a move.
-    void beginGesture(Id id)
+    void beginGesture(Id id) override
     {
         const ViewGestures mouse = gestures();
         if (id == Id::Polygon) {
@@ -46,7 +46,7 @@ class TestBodyTools : public QObject, private ToolFixture
         }
     }
     // Ends a gesture as the tool would finish it.
-    void endGesture(Id id)
+    void endGesture(Id id) override
     {
         if (id == Id::Polygon)
             gestures().click(QPointF(1, 2), Qt::RightButton);
@@ -528,16 +528,7 @@ private slots:
     void escapeDropsTheGesture()
     {
         QFETCH(Id, tool);
-        selectTool(tool);
-        beginGesture(tool);
-        QCOMPARE(shownPreviews().size(), 1);
-        QTest::keyClick(view(), Qt::Key_Escape);
-        QVERIFY(shownPreviews().isEmpty());
-        endGesture(tool);
-        QCOMPARE(stack()->count(), 0);
-        QCOMPARE(world()->items().size(), 0);
-        QCOMPARE(view()->currentAction, this->tool(tool));
-        QVERIFY(window()->action(tool)->isChecked());
+        checkEscapeDropsTheGesture(tool);
     }
 
     void changeOfToolDropsTheGesture_data() { escapeDropsTheGesture_data(); }
@@ -545,21 +536,7 @@ private slots:
     void changeOfToolDropsTheGesture()
     {
         QFETCH(Id, tool);
-        selectTool(tool);
-        beginGesture(tool);
-        QCOMPARE(shownPreviews().size(), 1);
-        selectTool(Id::Select);
-        QVERIFY(shownPreviews().isEmpty());
-        endGesture(tool);
-        QCOMPARE(stack()->count(), 0);
-        QCOMPARE(world()->items().size(), 0);
-        QCOMPARE(view()->currentAction, this->tool(Id::Select));
-
-        // Back to the tool: no trace of the dropped gesture.
-        selectTool(tool);
-        beginGesture(tool);
-        endGesture(tool);
-        QCOMPARE(stack()->count(), 1);
+        checkChangeOfToolDropsTheGesture(tool);
     }
 
     void gridSnapping_data()

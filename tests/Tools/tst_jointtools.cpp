@@ -55,7 +55,7 @@ class TestJointTools : public QObject, private ToolFixture
     }
 
     // Starts the gesture of a tool without finishing it, from the left body towards the right.
-    void beginGesture(Id id)
+    void beginGesture(Id id) override
     {
         const ViewGestures mouse = gestures();
         if (id == Id::PulleyJoint) {
@@ -68,7 +68,7 @@ class TestJointTools : public QObject, private ToolFixture
             mouse.pressAndDrag(place("left"), place("right"));
         }
     }
-    void endGesture(Id id)
+    void endGesture(Id id) override
     {
         const ViewGestures mouse = gestures();
         if (id == Id::PulleyJoint) {
@@ -410,14 +410,7 @@ private slots:
     void escapeDropsTheGesture()
     {
         QFETCH(Id, tool);
-        selectTool(tool);
-        beginGesture(tool);
-        QCOMPARE(shownPreviews().size(), 1);
-        QTest::keyClick(view(), Qt::Key_Escape);
-        QVERIFY(shownPreviews().isEmpty());
-        endGesture(tool);
-        QCOMPARE(stack()->count(), 0);
-        QCOMPARE(view()->currentAction, this->tool(tool));
+        checkEscapeDropsTheGesture(tool);
     }
 
     void changeOfToolDropsTheGesture_data() { escapeDropsTheGesture_data(); }
@@ -425,19 +418,7 @@ private slots:
     void changeOfToolDropsTheGesture()
     {
         QFETCH(Id, tool);
-        selectTool(tool);
-        beginGesture(tool);
-        QCOMPARE(shownPreviews().size(), 1);
-        selectTool(Id::Select);
-        QVERIFY(shownPreviews().isEmpty());
-        endGesture(tool);
-        QCOMPARE(stack()->count(), 0);
-        QCOMPARE(view()->currentAction, this->tool(Id::Select));
-
-        selectTool(tool);
-        beginGesture(tool);
-        endGesture(tool);
-        QCOMPARE(stack()->count(), 1);
+        checkChangeOfToolDropsTheGesture(tool);
     }
 
     void snappingMovesTheEnds_data()
