@@ -1,10 +1,10 @@
 #include "Commands/BodyCommand.h"
 #include "Commands/JointCommand.h"
+#include "GestureFixture.h"
 #include "Physics/BalloonItem.h"
 #include "Physics/PolygonItem.h"
 #include "Physics/RectangleItem.h"
 #include "Physics/RevoluteJoint.h"
-#include "ToolFixture.h"
 #include "Tools/PolygonAction.h"
 #include "View/GearGraphicsItem.h"
 #include "WindowTestMain.h"
@@ -26,7 +26,7 @@ const QPointF gearCentre(-1.0, 1.0);
 // The tools that draw one body, driven through the real view with the mouse: the body each
 // makes in world coordinates, sizes below the minimum, Escape and a change of tool in the
 // middle of a gesture, and snapping to the grid and to other bodies.
-class TestBodyTools : public QObject, private ToolFixture
+class TestBodyTools : public QObject, private GestureFixture
 {
     Q_OBJECT
 

@@ -1,9 +1,9 @@
 #include "Commands/JointCommand.h"
 #include "Commands/SpringForceCommand.h"
+#include "GestureFixture.h"
 #include "Physics/JointItem.h"
 #include "Physics/RectangleItem.h"
 #include "Physics/RevoluteJoint.h"
-#include "ToolFixture.h"
 #include "Tools/RevoluteJointAction.h"
 #include "View/RevoluteJointGraphicsItem.h"
 #include "View/SpringGraphicsItem.h"
@@ -20,7 +20,7 @@ Q_DECLARE_METATYPE(MainWindow::ActionId)
 // The tools that join bodies, driven through the real view with the mouse: which bodies each
 // joins and where, what each refuses, Escape and a change of tool in the middle of a gesture,
 // snapping of the ends, and a body that a script deletes in the middle of a drag.
-class TestJointTools : public QObject, private ToolFixture
+class TestJointTools : public QObject, private GestureFixture
 {
     Q_OBJECT
 
