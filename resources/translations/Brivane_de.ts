@@ -35,6 +35,10 @@
         <source>Supported OpenGL Versions:</source>
         <translation>Unterstützte OpenGL-Versionen:</translation>
     </message>
+    <message>
+        <source>%1 is not evaluated: a script file may hold at most %2 MB.</source>
+        <translation>%1 wird nicht ausgewertet: Eine Skriptdatei darf höchstens %2 MB groß sein.</translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -59,6 +63,13 @@
     <message>
         <source>Create Distance Joint</source>
         <translation>Abstandsgelenk erstellen</translation>
+    </message>
+</context>
+<context>
+    <name>GearAction</name>
+    <message>
+        <source>Create Gear</source>
+        <translation>Zahnrad erstellen</translation>
     </message>
 </context>
 <context>
@@ -663,6 +674,10 @@
     <message>
         <source>Spring Force</source>
         <translation>Federkraft</translation>
+    </message>
+    <message>
+        <source>Gear</source>
+        <translation>Zahnrad</translation>
     </message>
 </context>
 <context>

@@ -35,6 +35,10 @@
         <source>Supported OpenGL Versions:</source>
         <translation>Υποστηριζόμενες εκδόσεις OpenGL:</translation>
     </message>
+    <message>
+        <source>%1 is not evaluated: a script file may hold at most %2 MB.</source>
+        <translation>Το %1 δεν εκτελείται: ένα αρχείο σεναρίου μπορεί να έχει το πολύ %2 MB.</translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -59,6 +63,13 @@
     <message>
         <source>Create Distance Joint</source>
         <translation>Δημιουργία άρθρωσης απόστασης</translation>
+    </message>
+</context>
+<context>
+    <name>GearAction</name>
+    <message>
+        <source>Create Gear</source>
+        <translation>Δημιουργία γραναζιού</translation>
     </message>
 </context>
 <context>
@@ -663,6 +674,10 @@
     <message>
         <source>Spring Force</source>
         <translation>Δύναμη ελατηρίου</translation>
+    </message>
+    <message>
+        <source>Gear</source>
+        <translation>Γρανάζι</translation>
     </message>
 </context>
 <context>

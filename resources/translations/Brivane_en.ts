@@ -35,6 +35,10 @@
         <source>Supported OpenGL Versions:</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1 is not evaluated: a script file may hold at most %2 MB.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -58,6 +62,13 @@
     <name>DistanceJointAction</name>
     <message>
         <source>Create Distance Joint</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>GearAction</name>
+    <message>
+        <source>Create Gear</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -662,6 +673,10 @@
     </message>
     <message>
         <source>Spring Force</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gear</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -35,6 +35,10 @@
         <source>Supported OpenGL Versions:</source>
         <translation>Versiones de OpenGL compatibles:</translation>
     </message>
+    <message>
+        <source>%1 is not evaluated: a script file may hold at most %2 MB.</source>
+        <translation>%1 no se evalúa: un archivo de script puede tener como máximo %2 MB.</translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -59,6 +63,13 @@
     <message>
         <source>Create Distance Joint</source>
         <translation>Crear articulación de distancia</translation>
+    </message>
+</context>
+<context>
+    <name>GearAction</name>
+    <message>
+        <source>Create Gear</source>
+        <translation>Crear engranaje</translation>
     </message>
 </context>
 <context>
@@ -663,6 +674,10 @@
     <message>
         <source>Spring Force</source>
         <translation>Fuerza de resorte</translation>
+    </message>
+    <message>
+        <source>Gear</source>
+        <translation>Engranaje</translation>
     </message>
 </context>
 <context>

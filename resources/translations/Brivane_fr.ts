@@ -35,6 +35,10 @@
         <source>Supported OpenGL Versions:</source>
         <translation>Versions d&apos;OpenGL prises en charge :</translation>
     </message>
+    <message>
+        <source>%1 is not evaluated: a script file may hold at most %2 MB.</source>
+        <translation>%1 n’est pas évalué : un fichier de script peut contenir au plus %2 Mo.</translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -59,6 +63,13 @@
     <message>
         <source>Create Distance Joint</source>
         <translation>Créer une liaison de distance</translation>
+    </message>
+</context>
+<context>
+    <name>GearAction</name>
+    <message>
+        <source>Create Gear</source>
+        <translation>Créer un engrenage</translation>
     </message>
 </context>
 <context>
@@ -663,6 +674,10 @@
     <message>
         <source>Spring Force</source>
         <translation>Force de ressort</translation>
+    </message>
+    <message>
+        <source>Gear</source>
+        <translation>Engrenage</translation>
     </message>
 </context>
 <context>

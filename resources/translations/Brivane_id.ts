@@ -35,6 +35,10 @@
         <source>Supported OpenGL Versions:</source>
         <translation>Versi OpenGL yang Didukung:</translation>
     </message>
+    <message>
+        <source>%1 is not evaluated: a script file may hold at most %2 MB.</source>
+        <translation>%1 tidak dievaluasi: berkas skrip paling besar %2 MB.</translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -59,6 +63,13 @@
     <message>
         <source>Create Distance Joint</source>
         <translation>Buat Sambungan Jarak</translation>
+    </message>
+</context>
+<context>
+    <name>GearAction</name>
+    <message>
+        <source>Create Gear</source>
+        <translation>Buat Roda Gigi</translation>
     </message>
 </context>
 <context>
@@ -663,6 +674,10 @@
     <message>
         <source>Spring Force</source>
         <translation>Gaya Pegas</translation>
+    </message>
+    <message>
+        <source>Gear</source>
+        <translation>Roda Gigi</translation>
     </message>
 </context>
 <context>

@@ -35,6 +35,10 @@
         <source>Supported OpenGL Versions:</source>
         <translation>Versioni di OpenGL supportate:</translation>
     </message>
+    <message>
+        <source>%1 is not evaluated: a script file may hold at most %2 MB.</source>
+        <translation>%1 non viene valutato: un file di script può contenere al massimo %2 MB.</translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -59,6 +63,13 @@
     <message>
         <source>Create Distance Joint</source>
         <translation>Crea giunto di distanza</translation>
+    </message>
+</context>
+<context>
+    <name>GearAction</name>
+    <message>
+        <source>Create Gear</source>
+        <translation>Crea ingranaggio</translation>
     </message>
 </context>
 <context>
@@ -663,6 +674,10 @@
     <message>
         <source>Spring Force</source>
         <translation>Forza elastica</translation>
+    </message>
+    <message>
+        <source>Gear</source>
+        <translation>Ingranaggio</translation>
     </message>
 </context>
 <context>

@@ -35,6 +35,10 @@
         <source>Supported OpenGL Versions:</source>
         <translation>サポートされている OpenGL のバージョン:</translation>
     </message>
+    <message>
+        <source>%1 is not evaluated: a script file may hold at most %2 MB.</source>
+        <translation>%1 は評価されません: スクリプトファイルは最大 %2 MB までです。</translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -59,6 +63,13 @@
     <message>
         <source>Create Distance Joint</source>
         <translation>距離ジョイントを作成</translation>
+    </message>
+</context>
+<context>
+    <name>GearAction</name>
+    <message>
+        <source>Create Gear</source>
+        <translation>歯車を作成</translation>
     </message>
 </context>
 <context>
@@ -663,6 +674,10 @@
     <message>
         <source>Spring Force</source>
         <translation>ばねの力</translation>
+    </message>
+    <message>
+        <source>Gear</source>
+        <translation>歯車</translation>
     </message>
 </context>
 <context>

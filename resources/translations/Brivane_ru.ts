@@ -35,6 +35,10 @@
         <source>Supported OpenGL Versions:</source>
         <translation>Поддерживаемые версии OpenGL:</translation>
     </message>
+    <message>
+        <source>%1 is not evaluated: a script file may hold at most %2 MB.</source>
+        <translation>%1 не выполняется: файл сценария может занимать не более %2 МБ.</translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -59,6 +63,13 @@
     <message>
         <source>Create Distance Joint</source>
         <translation>Создать дистанционное соединение</translation>
+    </message>
+</context>
+<context>
+    <name>GearAction</name>
+    <message>
+        <source>Create Gear</source>
+        <translation>Создать шестерню</translation>
     </message>
 </context>
 <context>
@@ -663,6 +674,10 @@
     <message>
         <source>Spring Force</source>
         <translation>Сила пружины</translation>
+    </message>
+    <message>
+        <source>Gear</source>
+        <translation>Шестерня</translation>
     </message>
 </context>
 <context>

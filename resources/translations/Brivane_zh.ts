@@ -35,6 +35,10 @@
         <source>Supported OpenGL Versions:</source>
         <translation>支持的 OpenGL 版本：</translation>
     </message>
+    <message>
+        <source>%1 is not evaluated: a script file may hold at most %2 MB.</source>
+        <translation>未执行 %1：脚本文件最大为 %2 MB。</translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -59,6 +63,13 @@
     <message>
         <source>Create Distance Joint</source>
         <translation>创建距离关节</translation>
+    </message>
+</context>
+<context>
+    <name>GearAction</name>
+    <message>
+        <source>Create Gear</source>
+        <translation>创建齿轮</translation>
     </message>
 </context>
 <context>
@@ -663,6 +674,10 @@
     <message>
         <source>Spring Force</source>
         <translation>弹簧力</translation>
+    </message>
+    <message>
+        <source>Gear</source>
+        <translation>齿轮</translation>
     </message>
 </context>
 <context>

@@ -23,6 +23,7 @@
 #include <QDesktopWidget>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QGLFormat>
 #include <QOpenGLContext>
 #include <QPixmap>
@@ -39,6 +40,9 @@ namespace {
 // The maker's name, kept in two pieces: the first in base64, the second in hexadecimal.
 const char* const organizationFirst = "QnJpdmFuZQ==";
 const char* const organizationSecond = "50726f6a656374";
+
+// The largest script file that evaluateScript reads.
+const int maximumScriptMegabytes = 4;
 
 struct LanguageEntry
 {
@@ -205,7 +209,12 @@ void Application::newFile(bool createGround)
 {
     if (mainWindow)
         mainWindow->deleteUnknownChildren();
-    undoStack->clear();
+    // A script runs inside code that may be a command of the stack, undoing or redoing:
+    // the history goes once control is back in the event loop.
+    if (PhysicsWorld::instance()->scriptRunning())
+        QTimer::singleShot(0, undoStack, &QUndoStack::clear);
+    else
+        undoStack->clear();
     PhysicsWorld::instance()->clear();
     if (createGround)
         PhysicsWorld::instance()->createGround();
@@ -218,7 +227,7 @@ void Application::newFile(bool createGround)
 namespace {
 template<typename T> QScriptValue itemToScriptValue(QScriptEngine* engine, T* const& item)
 {
-    return engine->newQObject(item, QScriptEngine::QtOwnership);
+    return engine->newQObject(item, QScriptEngine::QtOwnership, Application::scriptWrapOptions);
 }
 
 // A wrapper of another class arrives as null.
@@ -230,6 +239,20 @@ template<typename T> void itemFromScriptValue(const QScriptValue& value, T*& ite
 template<typename T> void registerItemType(QScriptEngine* engine)
 {
     qScriptRegisterMetaType<T*>(engine, itemToScriptValue<T>, itemFromScriptValue<T>);
+}
+
+// Scripts name languages by the integers of QLocale::Language. A number that is none of them
+// becomes AnyLanguage, which no translator has, rather than a value outside the enumeration.
+QScriptValue languageToScriptValue(QScriptEngine*, const QLocale::Language& language)
+{
+    return QScriptValue(int(language));
+}
+
+void languageFromScriptValue(const QScriptValue& value, QLocale::Language& language)
+{
+    const qint32 number = value.toInt32();
+    language = number >= 0 && number <= QLocale::LastLanguage ? QLocale::Language(number)
+                                                              : QLocale::AnyLanguage;
 }
 } // namespace
 
@@ -249,15 +272,18 @@ void Application::setupScriptEngine()
     scriptEngine->clearExceptions();
 
     const auto setGlobal = [&](const char* name, QObject* object) {
-        global.setProperty(QLatin1String(name),
-                           scriptEngine->newQObject(object, QScriptEngine::QtOwnership),
-                           QScriptValue::KeepExistingFlags);
+        global.setProperty(
+            QLatin1String(name),
+            scriptEngine->newQObject(object, QScriptEngine::QtOwnership, scriptWrapOptions),
+            QScriptValue::KeepExistingFlags);
     };
     setGlobal("app", this);
     setGlobal("world", PhysicsWorld::instance());
     setGlobal("mainWindow", mainWindow);
     setGlobal("graphicsView", mainWindow ? mainWindow->graphicsView() : nullptr);
 
+    qScriptRegisterMetaType<QLocale::Language>(scriptEngine, languageToScriptValue,
+                                               languageFromScriptValue);
     registerItemType<PhysicsItem>(scriptEngine);
     registerItemType<BodyItem>(scriptEngine);
     registerItemType<RectangleItem>(scriptEngine);
@@ -302,10 +328,20 @@ void Application::autoloadScripts(const QString& directory)
 
 bool Application::evaluateScript(QString scriptFilename)
 {
+    // Devices and pipes may never end: only regular files are read, and no more of them than
+    // a script can sensibly be.
+    const QFileInfo info(scriptFilename);
     QFile file(scriptFilename);
-    if (!scriptEngine || !file.open(QIODevice::ReadOnly))
+    if (!scriptEngine || !info.isFile() || !file.open(QIODevice::ReadOnly))
         return false;
-    QByteArray bytes = file.readAll();
+    QByteArray bytes = file.read(maximumScriptMegabytes * 1024 * 1024 + 1);
+    if (bytes.size() > maximumScriptMegabytes * 1024 * 1024) {
+        debug(tr("%1 is not evaluated: a script file may hold at most %2 MB.")
+                  .arg(info.fileName())
+                  .arg(maximumScriptMegabytes),
+              Brivane::Warning);
+        return false;
+    }
     const int nul = bytes.indexOf('\0');
     if (nul >= 0)
         bytes.truncate(nul);

@@ -5,13 +5,12 @@
 #include <QApplication>
 #include <QHash>
 #include <QLocale>
+#include <QScriptEngine>
 #include <QScriptValue>
 #include <QStringList>
 
 class MainWindow;
-class QScriptEngine;
 class QScriptEngineDebugger;
-class QScriptValue;
 class QTranslator;
 class QUndoStack;
 
@@ -50,6 +49,10 @@ public:
     void autoloadScripts(const QString& directory);
     void attachScriptDebugger();
     void detachScriptDebugger();
+
+    // How every program object is wrapped for scripts: only its owner may delete it.
+    static constexpr QScriptEngine::QObjectWrapOptions scriptWrapOptions
+        = QScriptEngine::ExcludeDeleteLater;
 
     // Whether an OpenGL context can be made here at all.
     static bool canCreateOpenGLContext();

@@ -4,17 +4,15 @@
 
 #include <QCoreApplication>
 #include <QLineF>
-#include <QPainterPath>
-#include <QTransform>
 #include <QtDebug>
 
 #include <CGAL/Constrained_Delaunay_triangulation_2.h>
 #include <CGAL/Exact_predicates_inexact_constructions_kernel.h>
-#include <CGAL/Polygon_2_algorithms.h>
 #include <CGAL/Triangulation_face_base_with_info_2.h>
 
 #include <algorithm>
 #include <limits>
+#include <map>
 #include <utility>
 #include <vector>
 
@@ -35,8 +33,8 @@ using FaceBase = CGAL::Constrained_triangulation_face_base_2<
     Kernel, CGAL::Triangulation_face_base_with_info_2<int, Kernel>>;
 using DataStructure
     = CGAL::Triangulation_data_structure_2<CGAL::Triangulation_vertex_base_2<Kernel>, FaceBase>;
-// Exact_predicates_tag lets rings touch and cross, which rounding in the simplification can
-// produce.
+// The outline goes in as it is, crossing and touching itself: Exact_predicates_tag lets its
+// edges cross.
 using Triangulation
     = CGAL::Constrained_Delaunay_triangulation_2<Kernel, DataStructure, CGAL::Exact_predicates_tag>;
 
@@ -45,8 +43,7 @@ constexpr int unvisited = -1;
 constexpr int outside = 0;
 constexpr int inside = 1;
 
-// Vertices beyond single precision's range can never become physics shapes, and far larger
-// ones make QPainterPath::simplified fail outright.
+// Vertices beyond single precision's range can never become physics shapes.
 bool fitsSinglePrecision(const QPolygonF& polygon)
 {
     constexpr qreal limit = std::numeric_limits<float>::max();
@@ -64,26 +61,44 @@ std::vector<Point> toPoints(const QPolygonF& polygon)
     return points;
 }
 
-// The rings that bound the outline's inside by the even-odd rule: its boundary, its holes and
-// whatever lies in them. Simplification resolves self-intersections and takes a cut-in hole
-// apart into the boundary and the hole. It takes most of the time for a large outline, and a
-// simple outline is its own one ring, so that one is passed through.
-QVector<XPolygonF> ringsOf(const XPolygonF& outline)
-{
-    const std::vector<Point> points = toPoints(outline);
-    if (CGAL::is_simple_2(points.cbegin(), points.cend(), Kernel()))
-        return {outline};
+using Edge = std::pair<std::size_t, std::size_t>;
 
-    QPainterPath path;
-    path.addPolygon(outline);
-    path.closeSubpath();
-    QVector<XPolygonF> rings;
-    for (const QPolygonF& subpath : path.simplified().toSubpathPolygons(QTransform())) {
-        const XPolygonF ring(subpath);
-        if (ring.size() >= 3)
-            rings.append(ring);
+// The outline's edges, as pairs of vertex indices, that bound its inside by the even-odd rule.
+// An edge that the outline runs along twice, as the bridge to a cut-in hole, out and back,
+// bounds nothing: of the edges that stand more than once, in either direction, one is kept for
+// an odd count and none for an even one.
+std::vector<Edge> boundingEdges(const std::vector<Point>& points)
+{
+    struct Place
+    {
+        Point low;
+        Point high;
+        std::size_t start;
+        bool operator<(const Place& other) const
+        {
+            return low < other.low || (low == other.low && high < other.high);
+        }
+        bool sameEdge(const Place& other) const { return low == other.low && high == other.high; }
+    };
+    std::vector<Place> places;
+    places.reserve(points.size());
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const Point& a = points[i];
+        const Point& b = points[(i + 1) % points.size()];
+        places.push_back(a < b ? Place {a, b, i} : Place {b, a, i});
     }
-    return rings;
+    std::sort(places.begin(), places.end());
+    std::vector<Edge> edges;
+    edges.reserve(points.size());
+    for (std::size_t first = 0; first < places.size();) {
+        std::size_t next = first + 1;
+        while (next < places.size() && places[next].sameEdge(places[first]))
+            ++next;
+        if ((next - first) % 2 == 1)
+            edges.emplace_back(places[first].start, (places[first].start + 1) % points.size());
+        first = next;
+    }
+    return edges;
 }
 
 // Marks start and every face reachable from it without crossing a constraint as lying on the
@@ -110,21 +125,14 @@ void floodRegion(Triangulation::Face_handle start, int side,
     }
 }
 
-// The counter-clockwise triangles of the constrained Delaunay triangulation of the rings that
-// lie inside them by the even-odd rule, in the triangulation's face order.
-QVector<QPolygonF> trianglesInside(const QVector<XPolygonF>& rings)
+// The counter-clockwise triangles of the constrained Delaunay triangulation of the outline that
+// lie inside it by the even-odd rule, in the triangulation's face order. Crossings of the
+// outline become vertices of the triangulation.
+QVector<QPolygonF> trianglesInside(const XPolygonF& outline)
 {
     // All vertices go in at once, which lets the triangulation sort them in space first.
-    std::vector<Point> points;
-    std::vector<std::pair<std::size_t, std::size_t>> edges;
-    for (const XPolygonF& ring : rings) {
-        const std::size_t first = points.size();
-        for (const QPointF& vertex : ring) {
-            edges.emplace_back(points.size(), points.size() + 1);
-            points.emplace_back(vertex.x(), vertex.y());
-        }
-        edges.back().second = first;
-    }
+    const std::vector<Point> points = toPoints(outline);
+    const std::vector<Edge> edges = boundingEdges(points);
     Triangulation triangulation;
     triangulation.insert_constraints(points.cbegin(), points.cend(), edges.cbegin(), edges.cend());
     if (triangulation.dimension() < 2)
@@ -132,7 +140,7 @@ QVector<QPolygonF> trianglesInside(const QVector<XPolygonF>& rings)
 
     for (auto face = triangulation.all_faces_begin(); face != triangulation.all_faces_end(); ++face)
         face->info() = unvisited;
-    // Walking out from the unbounded region, each ring edge crossed changes sides.
+    // Walking out from the unbounded region, each boundary edge crossed changes sides.
     std::vector<Triangulation::Edge> border;
     floodRegion(triangulation.infinite_face(), outside, border);
     while (!border.empty()) {
@@ -177,13 +185,9 @@ QList<XPolygonF> XPolygonF::triangulate() const
     if (size() < 3 || !fitsSinglePrecision(*this))
         return {};
 
-    const QVector<XPolygonF> rings = ringsOf(*this);
-    if (rings.isEmpty())
-        return {};
-
     QList<XPolygonF> result;
     int skipped = 0;
-    for (const QPolygonF& triangle : trianglesInside(rings)) {
+    for (const QPolygonF& triangle : trianglesInside(*this)) {
         // Each triangle comes counter-clockwise, and normalising leaves a sound one as it is.
         // It drops a vertex at an edge too short to keep, and it turns round a triangle so flat
         // that rounding hides its orientation: neither is a shape.
@@ -201,6 +205,47 @@ QList<XPolygonF> XPolygonF::triangulate() const
             QCoreApplication::translate("XPolygonF", "Skipped %1 triangles").arg(skipped),
             Brivane::Warning);
     return result;
+}
+
+// Every vertex meets an even number of the bounding edges, so walking along unused ones from
+// any edge comes back to where it started. The walk keeps to the outline's own order where it
+// can, which gives a simple outline back as it was.
+QVector<QPolygonF> XPolygonF::boundary() const
+{
+    const std::vector<Point> points = toPoints(*this);
+    const std::vector<Edge> edges = boundingEdges(points);
+    std::map<Point, std::vector<std::size_t>> incident;
+    for (std::size_t i = 0; i < edges.size(); ++i) {
+        incident[points[edges[i].first]].push_back(i);
+        incident[points[edges[i].second]].push_back(i);
+    }
+    std::vector<bool> used(edges.size(), false);
+    QVector<QPolygonF> rings;
+    for (std::size_t start = 0; start < edges.size(); ++start) {
+        if (used[start])
+            continue;
+        used[start] = true;
+        const Point& origin = points[edges[start].first];
+        std::size_t vertex = edges[start].second;
+        QPolygonF ring;
+        ring << at(int(edges[start].first));
+        while (points[vertex] != origin) {
+            ring << at(int(vertex));
+            std::size_t next = edges.size();
+            for (const std::size_t candidate : incident[points[vertex]]) {
+                if (!used[candidate] && (next == edges.size() || edges[candidate].first == vertex))
+                    next = candidate;
+            }
+            if (next == edges.size())
+                break;
+            used[next] = true;
+            vertex = points[edges[next].first] == points[vertex] ? edges[next].second
+                                                                 : edges[next].first;
+        }
+        if (ring.size() >= 3)
+            rings.append(ring);
+    }
+    return rings;
 }
 
 // The scan goes on at index 1 after a removal, so a short edge that the removal creates at

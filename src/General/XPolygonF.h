@@ -19,6 +19,10 @@ public:
     // the outline stays free. Triangles too thin for single precision are left out and
     // reported as a warning.
     QList<XPolygonF> triangulate() const;
+    // The outline without the edges that it runs along an even number of times, such as the
+    // bridges to cut-in holes: closed rings that bound the same inside by the even-odd rule,
+    // to be drawn. A simple outline is its own one ring.
+    QVector<QPolygonF> boundary() const;
 
 private:
     void removeShortEdges();

@@ -1,5 +1,7 @@
 #include "Physics/BalloonItem.h"
 
+#include "Physics/Box2DLimits.h"
+
 #include <QRadialGradient>
 
 BalloonItem::BalloonItem(double x, double y, double theta, double r)
@@ -10,6 +12,12 @@ BalloonItem::BalloonItem(double x, double y, double theta, double r)
     gradient.setColorAt(0.0, QColor(qrand() % 255, qrand() % 255, qrand() % 255, 255));
     gradient.setColorAt(1.0, Qt::white);
     setBrush(QBrush(gradient));
+}
+
+void BalloonItem::setForce(double force)
+{
+    if (Box2DLimits::isMagnitude(force))
+        liftAcceleration = force;
 }
 
 void BalloonItem::update()

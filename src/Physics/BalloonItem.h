@@ -20,7 +20,7 @@ public:
     double force() const { return liftAcceleration; }
 
 public slots:
-    void setForce(double force) { liftAcceleration = force; }
+    void setForce(double force);
 
 private:
     double liftAcceleration = 0.5;

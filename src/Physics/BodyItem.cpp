@@ -3,7 +3,7 @@
 #include "Application/Settings.h"
 #include "General/XPolygonF.h"
 #include "NemuToolbox/Toolbox.h"
-#include "Physics/FlagsString.h"
+#include "Physics/Box2DLimits.h"
 #include "Physics/PhysicsWorld.h"
 #include "View/CosmeticPens.h"
 
@@ -11,10 +11,15 @@
 #include <QGraphicsScene>
 #include <QPainter>
 #include <cmath>
+#include <limits>
 
 double BodyItem::zValueCounter = 0.0;
 
 namespace {
+// Box2D looks each proxy it destroys up among all proxies made since its last step. A body of
+// this many fixtures has it pair its new proxies first.
+const int manyFixtures = 256;
+
 // The float value of pi/180 as a double, and 180/pi as a float: the factors the properties
 // have always used, so that scenes read back to the same digits.
 const double radiansPerDegree = 0.017453293005625408;
@@ -34,8 +39,8 @@ double BodyItem::radiansToDegrees(double radians)
 
 BodyItem::BodyItem(double x, double y, double theta)
 {
-    // Box2D asserts on a position or angle that is not finite; scripts can pass anything.
-    if (!std::isfinite(x) || !std::isfinite(y) || !std::isfinite(theta))
+    // The factories refuse a pose Box2D cannot take; a body made directly stands at the origin.
+    if (!Box2DLimits::isPose(x, y, theta))
         x = y = theta = 0.0;
     Settings* settings = Settings::instance();
     bodyDefinition.position.Set(float(x), float(y));
@@ -59,10 +64,13 @@ BodyItem::BodyItem(double x, double y, double theta)
 
 BodyItem::~BodyItem()
 {
-    destroyFixtures();
-    deleteFixtureDefinitions();
-    if (b2World* world = PhysicsWorld::box2DWorld())
+    // DestroyBody takes the fixtures along without working the mass out for each of them.
+    if (b2World* world = PhysicsWorld::box2DWorld()) {
+        settleProxies();
         world->DestroyBody(pBody);
+    }
+    fixtures.clear();
+    deleteFixtureDefinitions();
 }
 
 bool BodyItem::isActive() const
@@ -74,6 +82,8 @@ void BodyItem::setActive(bool active)
 {
     if (active == pBody->IsEnabled())
         return;
+    if (!active)
+        settleProxies();
     pBody->SetEnabled(active);
     pGraphicsItem->setVisible(active);
 }
@@ -92,6 +102,12 @@ void BodyItem::update()
             pGraphicsItem->setRotation(rotation);
     }
     runOnUpdate();
+}
+
+void BodyItem::restoreDrawnPose()
+{
+    pBody->SetTransform(b2Vec2(float(pGraphicsItem->x()), float(pGraphicsItem->y())),
+                        float(degreesToRadians(pGraphicsItem->rotation())));
 }
 
 QList<QPolygonF> BodyItem::triangles() const
@@ -230,26 +246,31 @@ void BodyItem::setShowLocalCenter(bool show)
 
 void BodyItem::setPositionX(double x)
 {
+    if (!Box2DLimits::isCoordinate(x))
+        return;
     setXForm(x, positionY(), pBody->GetAngle());
     update();
 }
 
 void BodyItem::setPositionY(double y)
 {
+    if (!Box2DLimits::isCoordinate(y))
+        return;
     setXForm(positionX(), y, pBody->GetAngle());
     update();
 }
 
 void BodyItem::setAngle(double angle)
 {
+    if (!Box2DLimits::isMagnitude(angle))
+        return;
     setXForm(positionX(), positionY(), degreesToRadians(angle));
     update();
 }
 
 void BodyItem::setDensity(double density)
 {
-    // Box2D asserts on a negative or non-finite density; scripts can pass anything.
-    if (density == densityValue || !std::isfinite(density) || density < 0.0)
+    if (density == densityValue || !Box2DLimits::isDensity(density))
         return;
     densityValue = density;
     for (b2FixtureDef* definition : qAsConst(fixtureDefinitions))
@@ -262,7 +283,7 @@ void BodyItem::setDensity(double density)
 
 void BodyItem::setFriction(double friction)
 {
-    if (friction == frictionValue || !std::isfinite(friction))
+    if (friction == frictionValue || !Box2DLimits::isCoefficient(friction))
         return;
     frictionValue = friction;
     for (b2FixtureDef* definition : qAsConst(fixtureDefinitions))
@@ -272,7 +293,7 @@ void BodyItem::setFriction(double friction)
 
 void BodyItem::setRestitution(double restitution)
 {
-    if (restitution == restitutionValue || !std::isfinite(restitution))
+    if (restitution == restitutionValue || !Box2DLimits::isCoefficient(restitution))
         return;
     restitutionValue = restitution;
     for (b2FixtureDef* definition : qAsConst(fixtureDefinitions))
@@ -282,7 +303,7 @@ void BodyItem::setRestitution(double restitution)
 
 void BodyItem::setLinearDamping(double damping)
 {
-    if (damping == linearDamping() || !std::isfinite(damping))
+    if (damping == linearDamping() || !Box2DLimits::isCoefficient(damping))
         return;
     bodyDefinition.linearDamping = float(damping);
     pBody->SetLinearDamping(float(damping));
@@ -290,7 +311,7 @@ void BodyItem::setLinearDamping(double damping)
 
 void BodyItem::setAngularDamping(double damping)
 {
-    if (damping == angularDamping() || !std::isfinite(damping))
+    if (damping == angularDamping() || !Box2DLimits::isCoefficient(damping))
         return;
     bodyDefinition.angularDamping = float(damping);
     pBody->SetAngularDamping(float(damping));
@@ -298,7 +319,7 @@ void BodyItem::setAngularDamping(double damping)
 
 void BodyItem::setAngularVelocity(double velocity)
 {
-    if (isStatic() || !std::isfinite(velocity))
+    if (isStatic() || !Box2DLimits::isMagnitude(velocity))
         return;
     if (velocity != 0.0)
         pBody->SetAwake(true);
@@ -308,7 +329,7 @@ void BodyItem::setAngularVelocity(double velocity)
 
 void BodyItem::setLinearVelocityX(double x)
 {
-    if (isStatic() || !std::isfinite(x))
+    if (isStatic() || !Box2DLimits::isMagnitude(x))
         return;
     const b2Vec2 velocity(float(x), pBody->GetLinearVelocity().y);
     if (velocity.LengthSquared() > 0.0f)
@@ -318,7 +339,7 @@ void BodyItem::setLinearVelocityX(double x)
 
 void BodyItem::setLinearVelocityY(double y)
 {
-    if (isStatic() || !std::isfinite(y))
+    if (isStatic() || !Box2DLimits::isMagnitude(y))
         return;
     const b2Vec2 velocity(pBody->GetLinearVelocity().x, float(y));
     if (velocity.LengthSquared() > 0.0f)
@@ -328,7 +349,9 @@ void BodyItem::setLinearVelocityY(double y)
 
 void BodyItem::setFilterGroupIndex(int index)
 {
-    if (index == groupIndex)
+    // Box2D keeps the group in 16 bits.
+    if (index == groupIndex || index < std::numeric_limits<int16>::min()
+        || index > std::numeric_limits<int16>::max())
         return;
     groupIndex = index;
     writeFilter();
@@ -336,19 +359,19 @@ void BodyItem::setFilterGroupIndex(int index)
 
 void BodyItem::setFilterCategories(QString categories)
 {
-    const QString normal = FlagsString(categories).text();
-    if (normal == this->categories)
+    const FlagsString flags(categories);
+    if (flags.text() == this->categories.text())
         return;
-    this->categories = normal;
+    this->categories = flags;
     writeFilter();
 }
 
 void BodyItem::setFilterMasks(QString masks)
 {
-    const QString normal = FlagsString(masks).text();
-    if (normal == this->masks)
+    const FlagsString flags(masks);
+    if (flags.text() == this->masks.text())
         return;
-    this->masks = normal;
+    this->masks = flags;
     writeFilter();
 }
 
@@ -356,8 +379,8 @@ void BodyItem::writeFilter()
 {
     b2Filter filter;
     filter.groupIndex = int16(groupIndex);
-    filter.categoryBits = FlagsString(categories).number();
-    filter.maskBits = FlagsString(masks).number();
+    filter.categoryBits = categories.number();
+    filter.maskBits = masks.number();
     for (b2FixtureDef* definition : qAsConst(fixtureDefinitions))
         definition->filter = filter;
     for (b2Fixture* fixture : qAsConst(fixtures))
@@ -430,13 +453,15 @@ void BodyItem::setBasicPropertiesFrom(BodyItem* pBodyItem)
 
 void BodyItem::setLinearVelocity(double x, double y)
 {
+    if (!Box2DLimits::isMagnitude(x) || !Box2DLimits::isMagnitude(y))
+        return;
     pBody->SetLinearVelocity(b2Vec2(float(x), float(y)));
     pBody->SetAwake(true);
 }
 
 void BodyItem::setXForm(double x, double y, double theta)
 {
-    if (!std::isfinite(x) || !std::isfinite(y) || !std::isfinite(theta))
+    if (!Box2DLimits::isPose(x, y, theta))
         return;
     pBody->SetTransform(b2Vec2(float(x), float(y)), float(theta));
     pBody->SetAwake(true);
@@ -445,7 +470,7 @@ void BodyItem::setXForm(double x, double y, double theta)
 
 void BodyItem::applyForce(QLineF line)
 {
-    if (pBody->GetType() != b2_dynamicBody)
+    if (pBody->GetType() != b2_dynamicBody || !isVectorAtPoint(line))
         return;
     pBody->ApplyForce(b2Vec2(float(line.dx()), float(line.dy())),
                       b2Vec2(float(line.x1()), float(line.y1())), true);
@@ -453,13 +478,13 @@ void BodyItem::applyForce(QLineF line)
 
 void BodyItem::applyTorque(double torque)
 {
-    if (pBody->GetType() == b2_dynamicBody)
+    if (pBody->GetType() == b2_dynamicBody && Box2DLimits::isMagnitude(torque))
         pBody->ApplyTorque(float(torque), true);
 }
 
 void BodyItem::applyLinearImpulse(QLineF line)
 {
-    if (pBody->GetType() != b2_dynamicBody)
+    if (pBody->GetType() != b2_dynamicBody || !isVectorAtPoint(line))
         return;
     pBody->ApplyLinearImpulse(b2Vec2(float(line.dx()), float(line.dy())),
                               b2Vec2(float(line.x1()), float(line.y1())), true);
@@ -467,7 +492,7 @@ void BodyItem::applyLinearImpulse(QLineF line)
 
 void BodyItem::applyAngularImpulse(double impulse)
 {
-    if (pBody->GetType() == b2_dynamicBody)
+    if (pBody->GetType() == b2_dynamicBody && Box2DLimits::isMagnitude(impulse))
         pBody->ApplyAngularImpulse(float(impulse), true);
 }
 
@@ -475,6 +500,47 @@ QPointF BodyItem::position() const
 {
     const b2Vec2& position = pBody->GetPosition();
     return QPointF(position.x, position.y);
+}
+
+BodyItem::FixtureBatch::FixtureBatch(BodyItem* item)
+    : body(item->pBody)
+    , type(body->GetType())
+    , enabled(body->IsEnabled())
+    , linearVelocity(body->GetLinearVelocity())
+    , angularVelocity(body->GetAngularVelocity())
+{
+    // Off first: a change of type touches every proxy the body has.
+    item->settleProxies();
+    body->SetEnabled(false);
+    if (type == b2_dynamicBody)
+        body->SetType(b2_kinematicBody);
+}
+
+BodyItem::FixtureBatch::~FixtureBatch()
+{
+    if (type == b2_dynamicBody) {
+        body->SetType(b2_dynamicBody);
+        body->SetLinearVelocity(linearVelocity);
+        body->SetAngularVelocity(angularVelocity);
+    }
+    body->SetEnabled(enabled);
+}
+
+void BodyItem::settleProxies()
+{
+    // Pairing the new proxies empties Box2D's list of them; the contacts this makes touch only
+    // at the next step, which then reports them as new.
+    if (pBody->IsEnabled() && fixtures.size() >= manyFixtures)
+        const_cast<b2ContactManager&>(pBody->GetWorld()->GetContactManager()).FindNewContacts();
+}
+
+void BodyItem::setShapes(const QList<b2Shape*>& shapes)
+{
+    FixtureBatch batch(this);
+    destroyFixtures();
+    deleteFixtureDefinitions();
+    for (b2Shape* shape : shapes)
+        createFixture(shape);
 }
 
 void BodyItem::createFixture(b2Shape* shape)
@@ -486,16 +552,18 @@ void BodyItem::createFixture(b2Shape* shape)
     definition->restitution = float(restitutionValue);
     definition->isSensor = false;
     definition->filter.groupIndex = int16(groupIndex);
-    definition->filter.categoryBits = FlagsString(categories).number();
-    definition->filter.maskBits = FlagsString(masks).number();
+    definition->filter.categoryBits = categories.number();
+    definition->filter.maskBits = masks.number();
     fixtureDefinitions.append(definition);
     fixtures.append(pBody->CreateFixture(definition));
 }
 
 void BodyItem::destroyFixtures()
 {
-    for (b2Fixture* fixture : qAsConst(fixtures))
-        pBody->DestroyFixture(fixture);
+    // Box2D looks a fixture up from the newest on: the newest goes first.
+    FixtureBatch batch(this);
+    for (auto fixture = fixtures.crbegin(); fixture != fixtures.crend(); ++fixture)
+        pBody->DestroyFixture(*fixture);
     fixtures.clear();
 }
 
@@ -509,6 +577,7 @@ void BodyItem::deleteFixtureDefinitions()
 
 void BodyItem::recreateFixtures()
 {
+    FixtureBatch batch(this);
     destroyFixtures();
     for (b2FixtureDef* definition : qAsConst(fixtureDefinitions))
         fixtures.append(pBody->CreateFixture(definition));
@@ -533,6 +602,12 @@ void BodyItem::initialiseGraphics(double x, double y, double theta)
     centreMarker->setPos(centre.x, centre.y);
     centreMarker->setVisible(false);
     localCenterShown = false;
+}
+
+bool BodyItem::isVectorAtPoint(const QLineF& line)
+{
+    return Box2DLimits::isPoint(line.p1()) && Box2DLimits::isMagnitude(line.dx())
+        && Box2DLimits::isMagnitude(line.dy());
 }
 
 QTransform BodyItem::itemTransform() const

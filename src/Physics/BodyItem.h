@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Physics/FlagsString.h"
 #include "Physics/PhysicsItem.h"
 
 #include <QLineF>
@@ -54,7 +55,9 @@ class BodyItem : public PhysicsItem
     Q_PROPERTY(QBrush Brush READ brush WRITE setBrush)
 
 public:
-    enum BodyType { StaticBody = 0, KinematicBody = 1, DynamicBody = 2 };
+    // Of a fixed underlying type, so that any number a script or a file gives is a value of
+    // it, which setBodyType then refuses.
+    enum BodyType : int { StaticBody = 0, KinematicBody = 1, DynamicBody = 2 };
     Q_ENUM(BodyType)
 
     // theta in radians.
@@ -73,6 +76,8 @@ public:
 
     b2Body* body() const { return pBody; }
     void runOnContact(const QScriptValue& other);
+    // Puts the body back where its graphics item stands, which was finite when it was drawn.
+    void restoreDrawnPose();
 
     // Degrees to Box2D radians and back, through the float factors that the scene files of
     // earlier versions were written with.
@@ -99,8 +104,8 @@ public slots:
     double linearVelocityX() const;
     double linearVelocityY() const;
     int filterGroupIndex() const { return groupIndex; }
-    QString filterCategories() const { return categories; }
-    QString filterMasks() const { return masks; }
+    QString filterCategories() const { return categories.text(); }
+    QString filterMasks() const { return masks.text(); }
     int shapeCount() const { return fixtures.size(); }
 
     void setOnContact(QString script);
@@ -137,11 +142,9 @@ public slots:
     QList<b2Fixture*> shapes() const { return fixtures; }
 
 protected:
-    // Makes a fixture from a new shape, which the body then owns with its definition.
-    void createFixture(b2Shape* shape);
-    void destroyFixtures();
-    // Deletes the definitions with their shapes, for a geometry replaced as a whole.
-    void deleteFixtureDefinitions();
+    // Replaces every fixture and definition with one for each of the new shapes, which the
+    // body then owns.
+    void setShapes(const QList<b2Shape*>& shapes);
     // Rebuilds every fixture from its definition, after a definition changed.
     void recreateFixtures();
     // The common graphics set-up of the subclass constructors; theta in radians.
@@ -152,7 +155,36 @@ protected:
     QList<b2FixtureDef*> fixtureDefinitions;
 
 private:
+    // For each fixture it makes or destroys, Box2D works the body's mass out anew over all
+    // its fixtures, and looks the fixture's proxy up among all proxies made since the last
+    // step: quadratic in outlines of thousands of triangles. Changes of fixtures run inside a
+    // batch: meanwhile the body is switched off, so that its fixtures have no proxies, and
+    // kinematic, which has no mass; at the end the mass is worked out and the proxies are
+    // made once. The body keeps its velocities; its contacts and the forces applied for the
+    // next step are dropped, as Box2D drops them when a body changes type.
+    class FixtureBatch
+    {
+    public:
+        explicit FixtureBatch(BodyItem* item);
+        ~FixtureBatch();
+
+    private:
+        b2Body* body;
+        b2BodyType type;
+        bool enabled;
+        b2Vec2 linearVelocity;
+        float angularVelocity;
+    };
+
+    void createFixture(b2Shape* shape);
+    void destroyFixtures();
+    void deleteFixtureDefinitions();
+    // Before the body's proxies are destroyed: for each, Box2D searches every proxy made since
+    // its last step, which is quadratic in a body of thousands of fixtures made in one pause.
+    void settleProxies();
     void writeFilter();
+    // Whether a line is a force or an impulse that Box2D can take: a vector at a point.
+    static bool isVectorAtPoint(const QLineF& line);
 
     static double zValueCounter;
 
@@ -166,7 +198,8 @@ private:
     double frictionValue;
     double restitutionValue;
     int groupIndex = 0;
-    QString categories = QStringLiteral("A");
-    QString masks = QStringLiteral("ABCDEFGHIJKLMNOP");
+    // The text and the number of a filter come from one conversion of the value given.
+    FlagsString categories {QStringLiteral("A")};
+    FlagsString masks {QStringLiteral("ABCDEFGHIJKLMNOP")};
 };
 Q_DECLARE_METATYPE(BodyItem*)

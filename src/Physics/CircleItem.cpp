@@ -1,5 +1,7 @@
 #include "Physics/CircleItem.h"
 
+#include "Physics/Box2DLimits.h"
+
 #include <QGraphicsEllipseItem>
 #include <QGraphicsLineItem>
 #include <cmath>
@@ -11,7 +13,7 @@ CircleItem::CircleItem(double x, double y, double theta, double r)
     auto* shape = new b2CircleShape();
     shape->m_radius = float(r);
     shape->m_p.SetZero();
-    createFixture(shape);
+    setShapes({shape});
     ellipseItem = new QGraphicsEllipseItem(-r, -r, 2 * r, 2 * r);
     pGraphicsItem = ellipseItem;
     spoke = new QGraphicsLineItem(0, 0, 0, r, ellipseItem);
@@ -21,7 +23,7 @@ CircleItem::CircleItem(double x, double y, double theta, double r)
 
 void CircleItem::setRadius(double r)
 {
-    if (!(r > 0.0) || r == circleRadius)
+    if (!Box2DLimits::isSize(r) || r == circleRadius)
         return;
     circleRadius = r;
     ellipseItem->setRect(-r, -r, 2 * r, 2 * r);

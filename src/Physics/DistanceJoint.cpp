@@ -1,5 +1,6 @@
 #include "Physics/DistanceJoint.h"
 
+#include "Physics/Box2DLimits.h"
 #include "Physics/JointSoftness.h"
 
 #include <QGraphicsLineItem>
@@ -57,7 +58,7 @@ void DistanceJoint::setCollideConnected(bool collide)
 
 void DistanceJoint::setDampingRatio(double dampingRatio)
 {
-    if (dampingRatio == ratio || !finite(dampingRatio))
+    if (dampingRatio == ratio || !Box2DLimits::isCoefficient(dampingRatio))
         return;
     ratio = dampingRatio;
     applySpring();
@@ -65,7 +66,7 @@ void DistanceJoint::setDampingRatio(double dampingRatio)
 
 void DistanceJoint::setFrequencyHz(double frequencyHz)
 {
-    if (!finite(frequencyHz))
+    if (!Box2DLimits::isFrequency(frequencyHz))
         return;
     const double rounded = std::round(frequencyHz);
     if (rounded == frequency)
@@ -76,7 +77,7 @@ void DistanceJoint::setFrequencyHz(double frequencyHz)
 
 void DistanceJoint::setLength(double length)
 {
-    if (length == this->length() || !finite(length))
+    if (length == this->length() || !Box2DLimits::isLength(length))
         return;
     definition.length = float(length);
     applyDefinition();
@@ -84,7 +85,7 @@ void DistanceJoint::setLength(double length)
 
 void DistanceJoint::setWidth(double width)
 {
-    if (width == this->width() || !finite(width) || width < 0.0)
+    if (width == this->width() || !Box2DLimits::isLength(width))
         return;
     QPen pen = lineItem->pen();
     pen.setWidthF(width);

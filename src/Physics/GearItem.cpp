@@ -1,6 +1,7 @@
 #include "Physics/GearItem.h"
 
 #include "General/XPolygonF.h"
+#include "Physics/Box2DLimits.h"
 #include "Physics/PolygonItem.h"
 #include "View/GearGraphicsItem.h"
 
@@ -22,10 +23,10 @@ int toothCount(double pitchCircleRadius, double toothCountDivisor)
     return std::isfinite(count) && count > 0.0 ? int(qMin(count, maximumToothCount)) : 0;
 }
 
-// The constructor takes any value a script hands in; one that is not finite makes no gear.
-double finiteOrZero(double value)
+// The constructor takes any value it is handed; a size Box2D cannot take makes no gear.
+double sizeOrZero(double value)
 {
-    return std::isfinite(value) ? value : 0.0;
+    return Box2DLimits::isSize(value) ? value : 0.0;
 }
 
 } // namespace
@@ -61,9 +62,9 @@ QPolygonF gearOutline(double pitchCircleRadius, double toothSize, double toothCo
 GearItem::GearItem(double x, double y, double theta, double pitchCircleRadius, double toothSize,
                    double toothCountDivisor)
     : BodyItem(x, y, theta)
-    , radius(finiteOrZero(pitchCircleRadius))
-    , size(finiteOrZero(toothSize))
-    , divisor(finiteOrZero(toothCountDivisor))
+    , radius(sizeOrZero(pitchCircleRadius))
+    , size(sizeOrZero(toothSize))
+    , divisor(sizeOrZero(toothCountDivisor))
 {
     gearGraphicsItem = new GearGraphicsItem(radius, size, divisor);
     pGraphicsItem = gearGraphicsItem;
@@ -100,7 +101,7 @@ void GearItem::setToothCountDivisor(double toothCountDivisor)
 
 void GearItem::setSize(double& field, double value)
 {
-    if (value == field || !(value > 0.0) || !std::isfinite(value))
+    if (value == field || !Box2DLimits::isSize(value))
         return;
     field = value;
     rebuild();
@@ -108,20 +109,20 @@ void GearItem::setSize(double& field, double value)
 
 void GearItem::rebuild()
 {
-    destroyFixtures();
-    deleteFixtureDefinitions();
+    QList<b2Shape*> shapes;
     // The disc reaches out to the root of the teeth; teeth longer than the radius leave none.
     const float discRadius = float(radius - size / 2);
-    if (discRadius > 0.0f && std::isfinite(discRadius)) {
+    if (Box2DLimits::isSize(discRadius)) {
         auto* disc = new b2CircleShape();
         disc->m_radius = discRadius;
         disc->m_p.SetZero();
-        createFixture(disc);
+        shapes.append(disc);
     }
     for (const QPolygonF& tooth : gearTeeth(radius, size, divisor)) {
         if (b2PolygonShape* shape = PolygonItem::polygonShape(XPolygonF(tooth)))
-            createFixture(shape);
+            shapes.append(shape);
     }
+    setShapes(shapes);
     gearGraphicsItem->setGear(radius, size, divisor);
 }
 

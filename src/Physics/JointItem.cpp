@@ -58,6 +58,8 @@ void JointItem::createJoint()
     b2World* world = PhysicsWorld::box2DWorld();
     if (pJoint || bodyLost || !world || pDefinition->bodyA == pDefinition->bodyB)
         return;
+    // The world finds the item of a b2Joint through it.
+    pDefinition->userData.pointer = reinterpret_cast<uintptr_t>(this);
     pJoint = world->CreateJoint(pDefinition);
 }
 

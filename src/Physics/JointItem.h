@@ -5,7 +5,6 @@
 #include <QPen>
 #include <QPointF>
 #include <box2d/box2d.h>
-#include <cmath>
 
 // Base of the joints. A joint joins a first body item to a second one or, if the second is
 // null, to the world's background body, and pairs one b2Joint with a graphics item. Box2D
@@ -30,6 +29,11 @@ public:
 
     bool isActive() const override { return pJoint != nullptr; }
     void setActive(bool active) override;
+
+    // For settings that Box2D cannot change on a live joint, and for a joint whose impulses
+    // have gone out of the finite numbers: destroys it and creates it anew from the
+    // definition. Does nothing while inactive.
+    void rebuildJoint();
 
     BodyItem* bodyItem1() const { return pBodyItem1; }
     // Null for a joint to the background body.
@@ -69,9 +73,6 @@ protected:
 
     // Creates the b2Joint from the definition; does nothing for a joint that cannot be made.
     void createJoint();
-    // For settings that Box2D cannot change on a live joint: destroys it and creates it anew
-    // from the definition. Does nothing while inactive.
-    void rebuildJoint();
     void wakeBodies();
     // The set-up that every joint's main graphics item shares: selectable, above all bodies
     // and every earlier joint, half transparent.
@@ -81,12 +82,6 @@ protected:
     static QPen linePen(const QColor& color, double width);
     static b2Vec2 toVec2(const QPointF& point);
     static QPointF toPointF(const b2Vec2& vector);
-    // Whether every value is a finite number. Scripts can pass anything, and Box2D asserts on
-    // NaN limits or spreads a non-finite value through the whole world.
-    template<typename... Values> static bool finite(Values... values)
-    {
-        return (std::isfinite(values) && ...);
-    }
 
 private:
     void destroyJoint();

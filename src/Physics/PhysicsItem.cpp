@@ -4,11 +4,14 @@
 #include "Physics/BodyItem.h"
 #include "Physics/ForceItem.h"
 #include "Physics/JointItem.h"
+#include "Physics/PhysicsWorld.h"
 
 #include <QAbstractGraphicsShapeItem>
 #include <QKeyEvent>
+#include <QRegularExpression>
 #include <QScriptEngine>
-#include <QScriptValueIterator>
+#include <climits>
+#include <cmath>
 
 int PhysicsItem::physicsItemInstanceCounter = 0;
 
@@ -36,10 +39,30 @@ QString PhysicsItem::uniqueName() const
     QScriptEngine* engine = scriptEngine();
     QString candidate;
     do {
-        ++physicsItemInstanceCounter;
+        // The counter starts again at 1 rather than overflow.
+        physicsItemInstanceCounter
+            = physicsItemInstanceCounter < INT_MAX ? physicsItemInstanceCounter + 1 : 1;
         candidate = QStringLiteral("item%1").arg(physicsItemInstanceCounter);
-    } while (engine && engine->globalObject().property(candidate).isValid());
+    } while ((engine && engine->globalObject().property(candidate).isValid())
+             || PhysicsWorld::instance()->physicsItemFromName(candidate));
     return candidate;
+}
+
+bool PhysicsItem::isFreeName(const QString& name)
+{
+    // An identifier that the engine reads as one, which rules out its reserved words.
+    static const QRegularExpression identifier(
+        QStringLiteral("^[\\p{L}\\p{Nl}_$][\\p{L}\\p{Nl}\\p{Mn}\\p{Mc}\\p{Nd}\\p{Pc}_$]*$"));
+    if (!identifier.match(name).hasMatch()
+        || QScriptEngine::checkSyntax(QStringLiteral("var %1;").arg(name)).state()
+            != QScriptSyntaxCheckResult::Valid)
+        return false;
+    // Not held by another item, even one whose global a script has deleted; nor by anything
+    // the global object has or inherits, such as `print` or `__proto__`.
+    if (PhysicsWorld::instance()->physicsItemFromName(name))
+        return false;
+    QScriptEngine* engine = scriptEngine();
+    return !engine || !engine->globalObject().property(name).isValid();
 }
 
 void PhysicsItem::update()
@@ -69,36 +92,29 @@ double PhysicsItem::opacity() const
 
 void PhysicsItem::setName(QString newName)
 {
-    if (newName == itemName || newName.isEmpty())
+    if (newName == itemName || !isFreeName(newName))
         return;
-    QScriptEngine* engine = scriptEngine();
-    if (!engine) {
-        itemName = newName;
-        return;
+    if (QScriptEngine* engine = scriptEngine()) {
+        QScriptValue global = engine->globalObject();
+        const QScriptValue value = global.property(itemName);
+        global.setProperty(itemName, QScriptValue(), QScriptValue::KeepExistingFlags);
+        global.setProperty(newName, value, QScriptValue::KeepExistingFlags);
     }
-    QScriptValue global = engine->globalObject();
-    // A name taken by anything on the global object, host functions included, is refused.
-    QScriptValueIterator iterator(global);
-    while (iterator.hasNext()) {
-        iterator.next();
-        if (iterator.name() == newName)
-            return;
-    }
-    const QScriptValue value = global.property(itemName);
-    global.setProperty(itemName, QScriptValue(), QScriptValue::KeepExistingFlags);
-    global.setProperty(newName, value, QScriptValue::KeepExistingFlags);
+    const QString oldName = itemName;
     itemName = newName;
+    PhysicsWorld::instance()->itemRenamed(this, oldName);
 }
 
 void PhysicsItem::setZValue(double zValue)
 {
-    if (pGraphicsItem)
+    // The scene sorts its items by this value, which NaN would leave without an order.
+    if (pGraphicsItem && std::isfinite(zValue))
         pGraphicsItem->setZValue(zValue);
 }
 
 void PhysicsItem::setOpacity(double opacity)
 {
-    if (pGraphicsItem)
+    if (pGraphicsItem && std::isfinite(opacity))
         pGraphicsItem->setOpacity(opacity);
 }
 
@@ -164,7 +180,9 @@ void PhysicsItem::runEventScript(const QString& field, const char* functionName,
 {
     if (!evenIfInactive && !isActive())
         return;
-    if (field.isEmpty())
+    // An event does not start again inside itself: an OnUpdate that moves its body runs
+    // update() from the setter, and that would run the OnUpdate again, and so on.
+    if (field.isEmpty() || runningScripts.contains(&field))
         return;
     QScriptEngine* engine = scriptEngine();
     if (!engine)
@@ -173,8 +191,13 @@ void PhysicsItem::runEventScript(const QString& field, const char* functionName,
         = engine->globalObject().property(itemName, QScriptValue::ResolvePrototype);
     QScriptValue function
         = itemValue.property(QLatin1String(functionName), QScriptValue::ResolvePrototype);
-    // An error thrown by the script stays in the engine; the step goes on.
+    PhysicsWorld::ScriptGuard guard;
+    runningScripts.append(&field);
     function.call(itemValue, arguments);
+    runningScripts.removeOne(&field);
+    // An error of the script is dropped, so that it does not escape into a script that only
+    // set a property or started the world; the step, or that script, goes on.
+    engine->clearExceptions();
 }
 
 void PhysicsItem::runOnStart()
@@ -241,7 +264,8 @@ QScriptValue PhysicsItem::toScriptValue() const
     QScriptEngine* engine = scriptEngine();
     if (!engine)
         return QScriptValue();
-    return engine->newQObject(const_cast<PhysicsItem*>(this), QScriptEngine::QtOwnership);
+    return engine->newQObject(const_cast<PhysicsItem*>(this), QScriptEngine::QtOwnership,
+                              Application::scriptWrapOptions);
 }
 
 void PhysicsItem::setBrush(QBrush brush)

@@ -120,6 +120,9 @@ protected:
 
 private:
     QString uniqueName() const;
+    // Whether a name can be given to an item: an identifier that nothing else in the world
+    // or on the engine's global object holds.
+    static bool isFreeName(const QString& name);
 
     QString itemName;
     QString onStartScript;
@@ -127,5 +130,7 @@ private:
     QString onUpdateScript;
     QString onKeyPressScript;
     QString onKeyReleaseScript;
+    // The event scripts running now, by their text field.
+    QList<const QString*> runningScripts;
 };
 Q_DECLARE_METATYPE(PhysicsItem*)

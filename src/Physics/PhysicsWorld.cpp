@@ -4,6 +4,7 @@
 #include "Application/Settings.h"
 #include "Gui/MainWindow.h"
 #include "Physics/BalloonItem.h"
+#include "Physics/Box2DLimits.h"
 #include "Physics/ContactListener.h"
 #include "Physics/DistanceJoint.h"
 #include "Physics/ForceItem.h"
@@ -38,13 +39,25 @@ public:
     }
     ~IterationGuard()
     {
-        if (--world->iterationDepth == 0)
-            world->deleteRemovedItems();
+        --world->iterationDepth;
+        world->deleteRemovedItems();
     }
 
 private:
     PhysicsWorld* world;
 };
+
+PhysicsWorld::ScriptGuard::ScriptGuard()
+{
+    ++instance()->scriptDepth;
+}
+
+PhysicsWorld::ScriptGuard::~ScriptGuard()
+{
+    PhysicsWorld* world = instance();
+    if (--world->scriptDepth == 0 && world->iterationDepth == 0)
+        world->scheduleDeletion();
+}
 
 PhysicsWorld* PhysicsWorld::instance()
 {
@@ -115,13 +128,13 @@ int PhysicsWorld::jointCount() const
 
 void PhysicsWorld::setGravityX(double gravityX)
 {
-    if (setGravity(gravityX, world->GetGravity().y))
+    if (Box2DLimits::isMagnitude(gravityX) && setGravity(gravityX, world->GetGravity().y))
         emit gravityXChanged(gravityX);
 }
 
 void PhysicsWorld::setGravityY(double gravityY)
 {
-    if (setGravity(world->GetGravity().x, gravityY))
+    if (Box2DLimits::isMagnitude(gravityY) && setGravity(world->GetGravity().x, gravityY))
         emit gravityYChanged(gravityY);
 }
 
@@ -183,7 +196,8 @@ void PhysicsWorld::setContinuousPhysics(bool continuousPhysics)
 
 void PhysicsWorld::setSeconds(double seconds)
 {
-    simulatedSeconds = seconds;
+    if (std::isfinite(seconds))
+        simulatedSeconds = seconds;
 }
 
 void PhysicsWorld::setRender(bool render)
@@ -239,7 +253,9 @@ int PhysicsWorld::physicsItemInstanceCounter() const
 
 void PhysicsWorld::setPhysicsItemInstanceCounter(int counter)
 {
-    PhysicsItem::physicsItemInstanceCounter = counter;
+    // A negative counter would make names that are no script identifiers.
+    if (counter >= 0)
+        PhysicsItem::physicsItemInstanceCounter = counter;
 }
 
 XPropertyList PhysicsWorld::properties()
@@ -291,12 +307,15 @@ void PhysicsWorld::setState(PhysicsWorldState state)
 
 void PhysicsWorld::createMouseJoint(BodyItem* pBodyItem, double x, double y)
 {
-    if (!pBodyItem)
+    // A body that is not in the world, or not active in it, may be gone at any moment, and
+    // Box2D would free the joint with it behind the world's back.
+    if (!isInWorld(pBodyItem) || !pBodyItem->isActive() || !Box2DLimits::isPoint(QPointF(x, y)))
         return;
     b2Body* body = pBodyItem->body();
     const float mass = body->GetMass();
     if (mass == 0.0f)
         return;
+    destroyMouseJoint();
     b2MouseJointDef definition;
     definition.bodyA = background;
     definition.bodyB = body;
@@ -318,7 +337,7 @@ void PhysicsWorld::destroyMouseJoint()
 
 void PhysicsWorld::setMouseJointTarget(double x, double y)
 {
-    if (mouseJointPointer)
+    if (mouseJointPointer && Box2DLimits::isPoint(QPointF(x, y)))
         mouseJointPointer->SetTarget(b2Vec2(float(x), float(y)));
 }
 
@@ -331,6 +350,7 @@ void PhysicsWorld::step()
     world->Step(float(stepSeconds), velocityIterationCount, positionIterationCount);
     // Forces applied from here on, by springs, balloons and scripts, act in the next step.
     world->ClearForces();
+    repairNonFiniteBodies();
     simulatedSeconds += stepSeconds;
     dispatchContacts();
 
@@ -379,6 +399,12 @@ void PhysicsWorld::clear()
     stop();
     removeAllDynamicBodies();
     removeAllStaticBodies();
+    // Items that hang on no body of the world go as well.
+    const PhysicsItemList remaining = itemList;
+    for (PhysicsItem* item : remaining)
+        removePhysicsItem(item);
+    destroyMouseJoint();
+    repairBody(background);
     PhysicsItem::physicsItemInstanceCounter = 0;
     setStepFrequency(60);
     setVelocityIterations(8);
@@ -450,7 +476,15 @@ BodyItem* PhysicsWorld::bodyItemFromBody(b2Body* body) const
 
 PhysicsItem* PhysicsWorld::physicsItemFromName(QString name) const
 {
-    return itemList.physicsItemFromName(name);
+    return namedItems.value(name);
+}
+
+void PhysicsWorld::itemRenamed(PhysicsItem* item, const QString& oldName)
+{
+    if (namedItems.value(oldName) != item)
+        return;
+    namedItems.remove(oldName);
+    namedItems.insert(item->name(), item);
 }
 
 PhysicsItem* PhysicsWorld::physicsItemFromGraphicsItem(QGraphicsItem* graphicsItem) const
@@ -468,6 +502,12 @@ bool PhysicsWorld::contains(PhysicsItem* item) const
     return itemList.contains(item);
 }
 
+bool PhysicsWorld::isInWorld(PhysicsItem* item) const
+{
+    // Names are unique in the world, so the index answers at once, for an item that exists.
+    return item && namedItems.value(item->name()) == item;
+}
+
 void PhysicsWorld::selectAll()
 {
     itemList.setSelected(true);
@@ -480,6 +520,8 @@ void PhysicsWorld::deselectAll()
 
 RectangleItem* PhysicsWorld::createRectangle(double x, double y, double theta, double w, double h)
 {
+    if (!Box2DLimits::isPose(x, y, theta) || !Box2DLimits::isSize(w) || !Box2DLimits::isSize(h))
+        return nullptr;
     auto* item = new RectangleItem(x, y, theta, w, h);
     addPhysicsItem(item);
     return item;
@@ -487,6 +529,8 @@ RectangleItem* PhysicsWorld::createRectangle(double x, double y, double theta, d
 
 CircleItem* PhysicsWorld::createCircle(double x, double y, double theta, double r)
 {
+    if (!Box2DLimits::isPose(x, y, theta) || !Box2DLimits::isSize(r))
+        return nullptr;
     auto* item = new CircleItem(x, y, theta, r);
     addPhysicsItem(item);
     return item;
@@ -494,6 +538,8 @@ CircleItem* PhysicsWorld::createCircle(double x, double y, double theta, double 
 
 BalloonItem* PhysicsWorld::createBalloon(double x, double y, double theta, double r)
 {
+    if (!Box2DLimits::isPose(x, y, theta) || !Box2DLimits::isSize(r))
+        return nullptr;
     auto* item = new BalloonItem(x, y, theta, r);
     addPhysicsItem(item);
     return item;
@@ -501,6 +547,8 @@ BalloonItem* PhysicsWorld::createBalloon(double x, double y, double theta, doubl
 
 PolygonItem* PhysicsWorld::createPolygon(QPolygonF polygon)
 {
+    if (!Box2DLimits::isPolygon(polygon))
+        return nullptr;
     auto* item = new PolygonItem(polygon);
     addPhysicsItem(item);
     return item;
@@ -508,6 +556,8 @@ PolygonItem* PhysicsWorld::createPolygon(QPolygonF polygon)
 
 GearItem* PhysicsWorld::createGear(double x, double y, double theta, double r)
 {
+    if (!Box2DLimits::isPose(x, y, theta) || !Box2DLimits::isSize(r))
+        return nullptr;
     auto* item = new GearItem(x, y, theta, r, 0.4, 0.6);
     addPhysicsItem(item);
     return item;
@@ -517,7 +567,8 @@ SpringForce* PhysicsWorld::createSpringForce(BodyItem* pItem1, BodyItem* pItem2,
                                              QPointF p2, double k, double damping)
 {
     // A null or removed body is refused: a spring needs two bodies to act between.
-    if (!pItem1 || !pItem2 || !itemList.contains(pItem1) || !itemList.contains(pItem2))
+    if (!isInWorld(pItem1) || !isInWorld(pItem2) || !Box2DLimits::isLine(QLineF(p1, p2))
+        || !Box2DLimits::isMagnitude(k) || !Box2DLimits::isMagnitude(damping))
         return nullptr;
     auto* item = new SpringForce(pItem1, pItem2, p1, p2, k, damping);
     addPhysicsItem(item);
@@ -544,6 +595,8 @@ PhysicsItem* PhysicsWorld::createPhysicsItem(QString className)
 DistanceJoint* PhysicsWorld::createDistanceJoint(BodyItem* pItem1, BodyItem* pItem2, QPointF p1,
                                                  QPointF p2)
 {
+    if (!areJointBodies(pItem1, pItem2) || !Box2DLimits::isLine(QLineF(p1, p2)))
+        return nullptr;
     auto* joint = new DistanceJoint(pItem1, pItem2, QLineF(p1, p2));
     addPhysicsItem(joint);
     return joint;
@@ -551,6 +604,8 @@ DistanceJoint* PhysicsWorld::createDistanceJoint(BodyItem* pItem1, BodyItem* pIt
 
 RevoluteJoint* PhysicsWorld::createRevoluteJoint(BodyItem* pItem1, BodyItem* pItem2, QPointF p)
 {
+    if (!areJointBodies(pItem1, pItem2) || !Box2DLimits::isPoint(p))
+        return nullptr;
     auto* joint = new RevoluteJoint(pItem1, pItem2, p, Settings::instance()->revoluteJointRadius);
     addPhysicsItem(joint);
     return joint;
@@ -559,6 +614,9 @@ RevoluteJoint* PhysicsWorld::createRevoluteJoint(BodyItem* pItem1, BodyItem* pIt
 PrismaticJoint* PhysicsWorld::createPrismaticJoint(BodyItem* pItem1, BodyItem* pItem2, QLineF line1,
                                                    QLineF line2)
 {
+    if (!areJointBodies(pItem1, pItem2) || !Box2DLimits::isLine(line1)
+        || !Box2DLimits::isLine(line2))
+        return nullptr;
     auto* joint = new PrismaticJoint(pItem1, pItem2, line1, line2);
     addPhysicsItem(joint);
     return joint;
@@ -566,6 +624,8 @@ PrismaticJoint* PhysicsWorld::createPrismaticJoint(BodyItem* pItem1, BodyItem* p
 
 PulleyJoint* PhysicsWorld::createPulleyJoint(BodyItem* pItem1, BodyItem* pItem2, QPolygonF polygon)
 {
+    if (!areJointBodies(pItem1, pItem2) || !Box2DLimits::isPolygon(polygon))
+        return nullptr;
     auto* joint = new PulleyJoint(pItem1, pItem2, polygon);
     addPhysicsItem(joint);
     return joint;
@@ -578,11 +638,18 @@ void PhysicsWorld::createGround()
     createRectangle(10.5, 8, 0, 1, 16)->setBodyType(BodyItem::StaticBody);
 }
 
+bool PhysicsWorld::areJointBodies(BodyItem* first, BodyItem* second) const
+{
+    return isInWorld(first) && first != second && (!second || isInWorld(second));
+}
+
 void PhysicsWorld::addPhysicsItem(PhysicsItem* item)
 {
-    if (!item || itemList.contains(item))
+    // A removed item waits for its deletion, inactive, and has lost its joints.
+    if (!item || itemList.contains(item) || isRemoved(item))
         return;
     itemList.append(item);
+    namedItems.insert(item->name(), item);
     if (item->graphicsItem())
         scene->addItem(item->graphicsItem());
     if (Application* application = Application::instance()) {
@@ -659,16 +726,18 @@ void PhysicsWorld::detachItem(PhysicsItem* item)
 {
     if (mouseJointPointer && item->toBodyItem()
         && mouseJointPointer->GetBodyB() == item->toBodyItem()->body())
-        mouseJointPointer = nullptr; // Box2D destroys the joint with its body
+        destroyMouseJoint();
     if (item->graphicsItem())
         scene->removeItem(item->graphicsItem());
     itemList.removeAll(item);
+    if (namedItems.value(item->name()) == item)
+        namedItems.remove(item->name());
     if (Application* application = Application::instance()) {
         if (application->scriptEngine)
             application->scriptEngine->globalObject().setProperty(item->name(), QScriptValue(),
                                                                   QScriptValue::KeepExistingFlags);
     }
-    if (iterationDepth > 0) {
+    if (iterationDepth > 0 || scriptDepth > 0) {
         item->setActive(false);
         removedItems.insert(item);
     } else {
@@ -683,7 +752,69 @@ bool PhysicsWorld::isRemoved(PhysicsItem* item) const
 
 void PhysicsWorld::deleteRemovedItems()
 {
+    if (iterationDepth > 0 || scriptDepth > 0)
+        return;
     const QSet<PhysicsItem*> doomed = removedItems;
     removedItems.clear();
     qDeleteAll(doomed);
+}
+
+void PhysicsWorld::scheduleDeletion()
+{
+    if (removedItems.isEmpty() || deletionScheduled)
+        return;
+    deletionScheduled = true;
+    QTimer::singleShot(0, this, [this] {
+        deletionScheduled = false;
+        deleteRemovedItems();
+    });
+}
+
+void PhysicsWorld::repairNonFiniteBodies()
+{
+    QList<b2Body*> broken;
+    for (b2Body* body = world->GetBodyList(); body; body = body->GetNext()) {
+        const b2Vec2& position = body->GetPosition();
+        const b2Vec2& velocity = body->GetLinearVelocity();
+        if (!std::isfinite(position.x + position.y + body->GetAngle() + velocity.x + velocity.y
+                           + body->GetAngularVelocity()))
+            broken.append(body);
+    }
+    if (broken.isEmpty())
+        return;
+    QSet<b2Joint*> joints;
+    for (b2Body* body : qAsConst(broken)) {
+        repairBody(body);
+        for (b2JointEdge* edge = body->GetJointList(); edge; edge = edge->next)
+            joints.insert(edge->joint);
+    }
+    // Joints warm-start from the impulses they kept, which are NaN now.
+    for (b2Joint* joint : qAsConst(joints)) {
+        if (joint == mouseJointPointer)
+            destroyMouseJoint();
+        else if (auto* item = reinterpret_cast<JointItem*>(joint->GetUserData().pointer))
+            item->rebuildJoint();
+    }
+}
+
+void PhysicsWorld::repairBody(b2Body* body)
+{
+    if (auto* item = reinterpret_cast<BodyItem*>(body->GetUserData().pointer))
+        item->restoreDrawnPose();
+    else
+        body->SetTransform(b2Vec2_zero, 0.0f);
+    // Box2D sets a static body's velocities to zero only as the body becomes static.
+    if (body->GetType() == b2_staticBody) {
+        body->SetType(b2_kinematicBody);
+        body->SetType(b2_staticBody);
+    } else {
+        body->SetLinearVelocity(b2Vec2_zero);
+        body->SetAngularVelocity(0.0f);
+    }
+    // Its contacts warm-start from NaN impulses as well: switching the body off and on again
+    // drops them.
+    if (body->IsEnabled()) {
+        body->SetEnabled(false);
+        body->SetEnabled(true);
+    }
 }

@@ -4,6 +4,7 @@
 #include "Physics/PhysicsItemList.h"
 #include "Physics/PhysicsWorldState.h"
 
+#include <QHash>
 #include <QLineF>
 #include <QObject>
 #include <QPointF>
@@ -55,6 +56,18 @@ class PhysicsWorld : public QObject
     Q_PROPERTY(int JointCount READ jointCount USER true)
 
 public:
+    // Marks the run of a script. The code that started the script may still hold any item, so
+    // an item that the script removes leaves the world at once but is deleted only when
+    // control is back in the event loop.
+    class ScriptGuard
+    {
+    public:
+        ScriptGuard();
+        ~ScriptGuard();
+        ScriptGuard(const ScriptGuard&) = delete;
+        ScriptGuard& operator=(const ScriptGuard&) = delete;
+    };
+
     static PhysicsWorld* instance();
     // Deletes the world and every item in it; instance() then makes a fresh one.
     static void destroy();
@@ -75,6 +88,10 @@ public:
     int bodyCount() const;
     int jointCount() const;
     double timeStep() const { return stepSeconds; }
+    // Whether a script is running now: what it can reach must not be deleted under it.
+    bool scriptRunning() const { return scriptDepth > 0; }
+    // Keeps the index of names true when an item of the world takes a new name.
+    void itemRenamed(PhysicsItem* item, const QString& oldName);
 
     // The reset of a new scene: stops, removes every item, restores the stepping defaults.
     // Gravity stays as it was.
@@ -122,8 +139,9 @@ public slots:
     bool setSelectionSetProperty(QString propertyName, QVariant value);
     void getState(PhysicsWorldState& state);
     void setState(PhysicsWorldState state);
-    // Drags a body by the point (x, y) in metres with a soft joint anchored to the background;
-    // bodies without mass are not dragged. The tool moves the joint's target.
+    // Drags an active body of the world by the point (x, y) in metres with a soft joint
+    // anchored to the background, in place of any earlier one; bodies without mass are not
+    // dragged. The tool moves the joint's target.
     void createMouseJoint(BodyItem* pBodyItem, double x, double y);
     void destroyMouseJoint();
     // Moves the point the mouse joint pulls towards, in metres.
@@ -161,19 +179,21 @@ public slots:
     // Tooth size 0.4 and divisor 0.6, not the gear tool's settings.
     GearItem* createGear(double x, double y, double theta, double r);
     // Points in world coordinates; both bodies must be in the world, else nothing is made
-    // and the result is null.
+    // and the result is null. The factories make nothing of values Box2D cannot take.
     SpringForce* createSpringForce(BodyItem* pItem1, BodyItem* pItem2, QPointF p1, QPointF p2,
                                    double k = 500.0, double damping = 5.0);
     // A body of default geometry at the origin by its exact class name, else null.
     PhysicsItem* createPhysicsItem(QString className);
     // Joint factories: points in world coordinates; a null second body item joins the first
-    // to the background body.
+    // to the background body. The first body must be in the world, and the second, if any,
+    // another one of the world.
     DistanceJoint* createDistanceJoint(BodyItem* pItem1, BodyItem* pItem2, QPointF p1, QPointF p2);
     RevoluteJoint* createRevoluteJoint(BodyItem* pItem1, BodyItem* pItem2, QPointF p);
     PrismaticJoint* createPrismaticJoint(BodyItem* pItem1, BodyItem* pItem2, QLineF line1,
                                          QLineF line2);
     PulleyJoint* createPulleyJoint(BodyItem* pItem1, BodyItem* pItem2, QPolygonF polygon);
 
+    // An item removed from the world does not come back.
     void addPhysicsItem(PhysicsItem* item);
     void removePhysicsItem(PhysicsItem* item);
     void removeBody(BodyItem* pBodyItem);
@@ -193,7 +213,20 @@ private:
     class IterationGuard;
     // Stores gravity in m/s² and wakes every body; false if nothing changed.
     bool setGravity(double x, double y);
+    // Deletes the removed items unless a loop or a script still runs.
     void deleteRemovedItems();
+    void scheduleDeletion();
+    // Whether a body item may hang a joint on these bodies: the first of this world, the
+    // second of this world or none, and not the first.
+    bool areJointBodies(BodyItem* first, BodyItem* second) const;
+    // Like contains(), in constant time, for a pointer to an item that exists.
+    bool isInWorld(PhysicsItem* item) const;
+    // A body whose pose or velocity the solver has taken out of the finite numbers, which
+    // absurd but accepted values can still do, would spread NaN to everything it touches
+    // and, through the background body, to every later scene. It is put back where it was
+    // last drawn, at rest, with fresh contacts and joints; the background body at the origin.
+    void repairNonFiniteBodies();
+    void repairBody(b2Body* body);
     // Takes an item out of the scene, the list and the script globals and deletes it, or,
     // inside a loop over the items, marks it for deletion when the loop ends.
     void detachItem(PhysicsItem* item);
@@ -221,5 +254,9 @@ private:
     bool renderFrames = false;
 
     int iterationDepth = 0;
+    int scriptDepth = 0;
+    bool deletionScheduled = false;
     QSet<PhysicsItem*> removedItems;
+    // The items of the list by name: names are unique among them.
+    QHash<QString, PhysicsItem*> namedItems;
 };

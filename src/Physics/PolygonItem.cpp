@@ -2,28 +2,17 @@
 
 #include "General/XPolygonF.h"
 #include "NemuGeometry/Geometry.h"
-#include "View/CosmeticPens.h"
+#include "Physics/Box2DLimits.h"
 
-#include <QGraphicsItemGroup>
 #include <QGraphicsPathItem>
-#include <QGraphicsPolygonItem>
 #include <QPainterPath>
-#include <cmath>
 
 namespace {
-// The outline as a body can take it. Box2D asserts on a body placed beyond single precision,
-// and the triangulation cannot take a coordinate that is not finite: such an outline, which
-// only a script can hand in, is taken as empty.
+// The outline as a body can take it: one with a point Box2D cannot take, which the factory
+// refuses and only a direct construction can hand in, is taken as empty.
 QPolygonF placeableOutline(const QPolygonF& polygon)
 {
-    for (const QPointF& point : polygon) {
-        if (!std::isfinite(point.x()) || !std::isfinite(point.y()))
-            return QPolygonF();
-    }
-    const QPointF centre = polygon.boundingRect().center();
-    if (!std::isfinite(float(centre.x())) || !std::isfinite(float(centre.y())))
-        return QPolygonF();
-    return polygon;
+    return Box2DLimits::isPolygon(polygon) ? polygon : QPolygonF();
 }
 
 // Where the body of an outline stands: the centre of its bounding rectangle.
@@ -46,7 +35,7 @@ PolygonItem::PolygonItem(const QPolygonF& polygon)
 {
     pathItem = new QGraphicsPathItem();
     pGraphicsItem = pathItem;
-    wireframe = new QGraphicsItemGroup(pathItem);
+    wireframe = new QGraphicsPathItem(pathItem);
     const QPointF centre = outlineCentre(polygon);
     initialiseGraphics(centre.x(), centre.y(), 0.0);
     wireframe->setVisible(false);
@@ -67,14 +56,22 @@ void PolygonItem::setPolygon(const QPolygonF& polygon)
         triangles.append(triangle);
     setTriangleFixtures(triangles);
 
+    // Drawn by the even-odd rule as it was triangulated, without the bridges to cut-in holes.
+    // Simplifying an outline that crosses itself all over would take longer than everything
+    // else together.
     QPainterPath path;
-    path.addPolygon(outline);
-    pathItem->setPath(path.simplified());
+    for (const QPolygonF& ring : outline.boundary()) {
+        path.addPolygon(ring);
+        path.closeSubpath();
+    }
+    pathItem->setPath(path);
 
-    qDeleteAll(wireframe->childItems());
-    for (const QPolygonF& triangle : qAsConst(triangles))
-        new QGraphicsPolygonItem(triangle, wireframe);
-    CosmeticPens::apply(wireframe);
+    QPainterPath triangleOutlines;
+    for (const QPolygonF& triangle : qAsConst(triangles)) {
+        triangleOutlines.addPolygon(triangle);
+        triangleOutlines.closeSubpath();
+    }
+    wireframe->setPath(triangleOutlines);
 }
 
 void PolygonItem::setGeometryString(QString geometry)
@@ -82,9 +79,10 @@ void PolygonItem::setGeometryString(QString geometry)
     if (geometry == geometryString())
         return;
     bool ok = false;
-    const QPolygonF polygon = Nemu::Geometry::polygonFromString(geometry, &ok);
-    if (ok)
-        setPolygon(polygon.translated(position()));
+    const QPolygonF polygon
+        = Nemu::Geometry::polygonFromString(geometry, &ok).translated(position());
+    if (ok && Box2DLimits::isPolygon(polygon))
+        setPolygon(polygon);
 }
 
 void PolygonItem::setShowWireframe(bool show)
@@ -123,12 +121,18 @@ QString PolygonItem::debugInfo() const
 void PolygonItem::scale(double factor)
 {
     // A factor of 0 would leave a transform that cannot be undone by scaling again.
-    if (!(factor > 0.0) || !std::isfinite(factor))
+    if (!(factor > 0.0) || !Box2DLimits::isMagnitude(factor))
         return;
+    const QTransform previous = pGraphicsItem->transform();
     pGraphicsItem->setTransform(QTransform::fromScale(factor, factor), true);
+    const QPolygonF scaled = worldPolygon();
+    if (!Box2DLimits::isPolygon(scaled)) {
+        pGraphicsItem->setTransform(previous);
+        return;
+    }
 
     QPainterPath path;
-    path.addPolygon(worldPolygon());
+    path.addPolygon(scaled);
     QList<XPolygonF> worldTriangles;
     for (const QPolygonF& subpath : path.simplified().toSubpathPolygons())
         worldTriangles += XPolygonF(subpath).triangulate();
@@ -145,13 +149,13 @@ void PolygonItem::scale(double factor)
 
 void PolygonItem::setTriangleFixtures(const QList<QPolygonF>& triangles)
 {
-    destroyFixtures();
-    deleteFixtureDefinitions();
+    QList<b2Shape*> shapes;
     for (const QPolygonF& triangle : triangles) {
         // Slivers that the triangulation lets through but Box2D would assert on are left out.
         if (b2PolygonShape* shape = polygonShape(triangle))
-            createFixture(shape);
+            shapes.append(shape);
     }
+    setShapes(shapes);
 }
 
 b2PolygonShape* PolygonItem::polygonShape(const QPolygonF& vertices)

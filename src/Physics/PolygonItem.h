@@ -5,13 +5,12 @@
 #include <QList>
 #include <QPolygonF>
 
-class QGraphicsItemGroup;
 class QGraphicsPathItem;
 
 // A body of any outline. Box2D takes only small convex shapes, so the outline is held as one
 // triangle fixture for each triangle of its triangulation; the fixtures are derived from the
 // outline and rebuilt whenever it changes. The graphics item is a path of the outline in body
-// coordinates, with a group of the triangles as a child that shows them as a wireframe.
+// coordinates, with a path of the triangles as a child that shows them as a wireframe.
 class PolygonItem : public BodyItem
 {
     Q_OBJECT
@@ -55,7 +54,9 @@ private:
     void setTriangleFixtures(const QList<QPolygonF>& triangles);
 
     QGraphicsPathItem* pathItem;
-    QGraphicsItemGroup* wireframe;
+    // One path of all triangles: outlines of thousands of triangles are common, and as many
+    // graphics items would cost far more to make, to draw and to remove.
+    QGraphicsPathItem* wireframe;
     bool wireframeShown = false;
 };
 Q_DECLARE_METATYPE(PolygonItem*)

@@ -1,5 +1,7 @@
 #include "Physics/PrismaticJoint.h"
 
+#include "Physics/Box2DLimits.h"
+
 #include <QGraphicsLineItem>
 
 namespace {
@@ -68,7 +70,7 @@ QPointF PrismaticJoint::trackEnd2() const
 
 void PrismaticJoint::setLimits(double lower, double upper)
 {
-    if (!prismaticJoint() || !finite(lower, upper))
+    if (!prismaticJoint() || !Box2DLimits::isCoordinate(lower) || !Box2DLimits::isCoordinate(upper))
         return;
     prismaticJoint()->SetLimits(float(lower), float(qMax(lower, upper)));
     prismaticJoint()->EnableLimit(true);
@@ -76,7 +78,7 @@ void PrismaticJoint::setLimits(double lower, double upper)
 
 void PrismaticJoint::setMaxMotorForce(double force)
 {
-    if (!prismaticJoint() || !finite(force))
+    if (!prismaticJoint() || !Box2DLimits::isMagnitude(force))
         return;
     prismaticJoint()->SetMaxMotorForce(float(force));
     prismaticJoint()->EnableMotor(true);
@@ -84,7 +86,7 @@ void PrismaticJoint::setMaxMotorForce(double force)
 
 void PrismaticJoint::setMotorSpeed(double speed)
 {
-    if (!prismaticJoint() || !finite(speed))
+    if (!prismaticJoint() || !Box2DLimits::isMagnitude(speed))
         return;
     prismaticJoint()->SetMotorSpeed(float(speed));
     prismaticJoint()->EnableMotor(true);

@@ -1,6 +1,7 @@
 #include "Physics/RectangleItem.h"
 
 #include "General/XPolygonF.h"
+#include "Physics/Box2DLimits.h"
 
 #include <QFont>
 #include <QGraphicsRectItem>
@@ -9,6 +10,11 @@
 namespace {
 // Text is laid out at this many pixels per metre.
 const double textPixelsPerMetre = 50.0;
+// Laying text out takes time that grows faster than its length; a rectangle shows no more
+// than this many characters of its text, and keeps the rest.
+const int maximumShownText = 4000;
+// Points: fonts beyond this size take the renderer more memory than a screen is worth.
+const int maximumTextSize = 1000;
 } // namespace
 
 RectangleItem::RectangleItem(double x, double y, double theta, double w, double h)
@@ -18,7 +24,7 @@ RectangleItem::RectangleItem(double x, double y, double theta, double w, double 
 {
     auto* shape = new b2PolygonShape();
     shape->SetAsBox(float(w * 0.5), float(h * 0.5));
-    createFixture(shape);
+    setShapes({shape});
     rectItem = new QGraphicsRectItem(-w / 2, -h / 2, w, h);
     pGraphicsItem = rectItem;
     initialiseGraphics(x, y, theta);
@@ -34,7 +40,7 @@ RectangleItem::RectangleItem(double x, double y, double theta, double w, double 
 
 QString RectangleItem::text() const
 {
-    return textItem->toPlainText();
+    return textValue;
 }
 
 QColor RectangleItem::textColor() const
@@ -50,9 +56,10 @@ int RectangleItem::textSize() const
 void RectangleItem::setText(QString text)
 {
     // Every undo and redo writes the text back: laying it out again only when it changed.
-    if (text == this->text())
+    if (text == textValue)
         return;
-    textItem->setPlainText(text);
+    textValue = text;
+    textItem->setPlainText(text.left(maximumShownText));
     textItem->setVisible(!text.isEmpty());
 }
 
@@ -65,7 +72,7 @@ void RectangleItem::setTextColor(QColor color)
 void RectangleItem::setTextSize(int size)
 {
     QFont font = textItem->font();
-    if (font.pointSize() == size)
+    if (font.pointSize() == size || size < 1 || size > maximumTextSize)
         return;
     font.setPointSize(size);
     textItem->setFont(font);
@@ -73,7 +80,7 @@ void RectangleItem::setTextSize(int size)
 
 void RectangleItem::setWidth(double w)
 {
-    if (!(w > 0.0) || w == rectangleWidth)
+    if (!Box2DLimits::isSize(w) || w == rectangleWidth)
         return;
     rectangleWidth = w;
     resize();
@@ -82,7 +89,7 @@ void RectangleItem::setWidth(double w)
 
 void RectangleItem::setHeight(double h)
 {
-    if (!(h > 0.0) || h == rectangleHeight)
+    if (!Box2DLimits::isSize(h) || h == rectangleHeight)
         return;
     rectangleHeight = h;
     resize();
@@ -104,7 +111,7 @@ void RectangleItem::scale(double factor)
 {
     const double w = rectangleWidth * factor;
     const double h = rectangleHeight * factor;
-    if (w < 0.1 || h < 0.1)
+    if (w < 0.1 || h < 0.1 || !Box2DLimits::isSize(w) || !Box2DLimits::isSize(h))
         return;
     setWidth(w);
     setHeight(h);

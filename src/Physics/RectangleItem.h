@@ -52,5 +52,7 @@ private:
     QGraphicsTextItem* textItem;
     double rectangleWidth;
     double rectangleHeight;
+    // The whole text, of which the text item shows the beginning.
+    QString textValue;
 };
 Q_DECLARE_METATYPE(RectangleItem*)

@@ -1,6 +1,7 @@
 #include "Physics/RevoluteJoint.h"
 
 #include "Physics/BodyItem.h"
+#include "Physics/Box2DLimits.h"
 #include "View/RevoluteJointGraphicsItem.h"
 
 namespace {
@@ -62,7 +63,7 @@ double RevoluteJoint::motorTorque() const
 
 void RevoluteJoint::setRadius(double radius)
 {
-    if (radius == this->radius() || !finite(radius))
+    if (radius == this->radius() || !Box2DLimits::isSize(radius))
         return;
     jointGraphics->setRadius(radius);
 }
@@ -79,7 +80,7 @@ void RevoluteJoint::setLimitEnabled(bool enabled)
 
 void RevoluteJoint::setLowerLimit(double lowerLimit)
 {
-    if (lowerLimit == this->lowerLimit() || !finite(lowerLimit))
+    if (lowerLimit == this->lowerLimit() || !Box2DLimits::isMagnitude(lowerLimit))
         return;
     writeLimits(lowerLimit, qMax(lowerLimit, upperLimit()));
     wakeBodies();
@@ -87,7 +88,7 @@ void RevoluteJoint::setLowerLimit(double lowerLimit)
 
 void RevoluteJoint::setUpperLimit(double upperLimit)
 {
-    if (upperLimit == this->upperLimit() || !finite(upperLimit))
+    if (upperLimit == this->upperLimit() || !Box2DLimits::isMagnitude(upperLimit))
         return;
     writeLimits(qMin(lowerLimit(), upperLimit), upperLimit);
     wakeBodies();
@@ -95,7 +96,7 @@ void RevoluteJoint::setUpperLimit(double upperLimit)
 
 void RevoluteJoint::setLimits(double lower, double upper)
 {
-    if (!finite(lower, upper))
+    if (!Box2DLimits::isMagnitude(lower) || !Box2DLimits::isMagnitude(upper))
         return;
     writeLimits(lower, qMax(lower, upper));
 }
@@ -122,7 +123,7 @@ void RevoluteJoint::setMotorEnabled(bool enabled)
 
 void RevoluteJoint::setMotorSpeed(double motorSpeed)
 {
-    if (motorSpeed == this->motorSpeed() || !finite(motorSpeed))
+    if (motorSpeed == this->motorSpeed() || !Box2DLimits::isMagnitude(motorSpeed))
         return;
     definition.motorSpeed = float(motorSpeed);
     if (revoluteJoint())
@@ -132,7 +133,7 @@ void RevoluteJoint::setMotorSpeed(double motorSpeed)
 
 void RevoluteJoint::setAngle(double angle)
 {
-    if (angle == this->angle() || !finite(angle))
+    if (angle == this->angle() || !Box2DLimits::isMagnitude(angle))
         return;
     definition.referenceAngle = float(definition.bodyB->GetAngle() - definition.bodyA->GetAngle()
                                       + BodyItem::degreesToRadians(angle));

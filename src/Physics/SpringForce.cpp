@@ -2,11 +2,11 @@
 
 #include "NemuGeometry/Geometry.h"
 #include "Physics/BodyItem.h"
+#include "Physics/Box2DLimits.h"
 #include "View/SpringGraphicsItem.h"
 
 #include <QLineF>
 #include <QPen>
-#include <cmath>
 
 namespace {
 b2Vec2 toVector(const QPointF& point)
@@ -124,19 +124,19 @@ QColor SpringForce::color() const
 
 void SpringForce::setK(double k)
 {
-    if (std::isfinite(k))
+    if (Box2DLimits::isMagnitude(k))
         stiffness = k;
 }
 
 void SpringForce::setDamping(double damping)
 {
-    if (std::isfinite(damping))
+    if (Box2DLimits::isMagnitude(damping))
         dampingValue = damping;
 }
 
 void SpringForce::setDesiredDistance(double desiredDistance)
 {
-    if (!std::isfinite(desiredDistance))
+    if (!Box2DLimits::isLength(desiredDistance))
         return;
     restLength = desiredDistance;
     springItem->setRestLength(desiredDistance);

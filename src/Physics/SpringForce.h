@@ -44,7 +44,7 @@ public slots:
     double damping() const { return dampingValue; }
     double desiredDistance() const { return restLength; }
     QColor color() const;
-    // The setters refuse values that are not finite.
+    // The setters refuse values that Box2D could not take.
     void setK(double k);
     void setDamping(double damping);
     void setDesiredDistance(double desiredDistance);

@@ -3,6 +3,7 @@
 #include "General/support/PolygonChecks.h"
 
 #include <QPainterPath>
+#include <QSet>
 #include <QtTest>
 
 #include <cmath>
@@ -70,6 +71,8 @@ private slots:
     void triangulate();
     void skipsSlivers_data();
     void skipsSlivers();
+    void boundary_data();
+    void boundary();
 };
 
 void tst_XPolygonF::normalForm_data()
@@ -225,6 +228,53 @@ void tst_XPolygonF::triangulate()
     for (const XPolygonF& triangle : triangles)
         QVERIFY(outline.containsPoint(centroid(triangle), Qt::OddEvenFill));
     QCOMPARE(recorder.messages(QtWarningMsg), QStringList());
+}
+
+void tst_XPolygonF::boundary_data()
+{
+    QTest::addColumn<QPolygonF>("outline");
+    QTest::addColumn<int>("ringCount");
+    QTest::newRow("simple") << makePolygon({QPointF(0, 0), QPointF(2, 0), QPointF(1, 2)}) << 1;
+    QTest::newRow("figure of eight")
+        << makePolygon({QPointF(0, 0), QPointF(2, 2), QPointF(2, 0), QPointF(0, 2)}) << 1;
+    QTest::newRow("bridges to cut-in holes") << cutIn(QRectF(0, 0, 10, 8), grid(2, 1, 0.5)) << 3;
+    QTest::newRow("island in a hole")
+        << cutIn(QRectF(0, 0, 6, 6), {QRectF(1, 1, 4, 4), QRectF(2, 2, 2, 2)}) << 3;
+    QTest::newRow("out and back") << makePolygon(
+        {QPointF(0, 0), QPointF(1, 1), QPointF(2, 2), QPointF(1, 1)})
+                                  << 0;
+}
+
+// The rings fill what the outline fills by the even-odd rule, and no edge of theirs is run
+// along twice.
+void tst_XPolygonF::boundary()
+{
+    QFETCH(QPolygonF, outline);
+    QFETCH(int, ringCount);
+    const QVector<QPolygonF> rings = XPolygonF(outline).boundary();
+    QCOMPARE(rings.size(), ringCount);
+    QPainterPath path;
+    QSet<QString> edges;
+    for (const QPolygonF& ring : rings) {
+        path.addPolygon(ring);
+        path.closeSubpath();
+        for (int i = 0; i < ring.size(); ++i) {
+            QPointF a = ring.at(i);
+            QPointF b = ring.at((i + 1) % ring.size());
+            if (qMakePair(b.x(), b.y()) < qMakePair(a.x(), a.y()))
+                std::swap(a, b);
+            const QString edge
+                = QStringLiteral("%1 %2 %3 %4").arg(a.x()).arg(a.y()).arg(b.x()).arg(b.y());
+            QVERIFY2(!edges.contains(edge), qPrintable(edge));
+            edges.insert(edge);
+        }
+    }
+    const QRectF bounds = outline.boundingRect();
+    for (double x = bounds.left() + 0.05; x < bounds.right(); x += 0.1) {
+        for (double y = bounds.top() + 0.05; y < bounds.bottom(); y += 0.1)
+            QCOMPARE(path.contains(QPointF(x, y)),
+                     outline.containsPoint(QPointF(x, y), Qt::OddEvenFill));
+    }
 }
 
 void tst_XPolygonF::skipsSlivers_data()

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QGraphicsTextItem>
 #include <QTest>
+#include <climits>
 #include <cmath>
 
 // Bodies: the collision filter letters, conversions, setters with their rebuild and wake
@@ -88,6 +89,10 @@ private slots:
         // Filters survive a rebuild of the fixtures.
         body->setFriction(0.9);
         QCOMPARE(int(body->shapes().first()->GetFilterData().categoryBits), 3);
+        // A text without letters is no category at all, not the "A" of an empty text.
+        body->setFilterCategories(QStringLiteral("123"));
+        QCOMPARE(body->filterCategories(), QString());
+        QCOMPARE(int(body->shapes().first()->GetFilterData().categoryBits), 0);
     }
 
     void angleInDegreesThroughFloat()
@@ -132,35 +137,40 @@ private slots:
         QCOMPARE(double(body->shapes().first()->GetFriction()), double(float(0.3)));
     }
 
-    void densityKeepsBadValuesAway_data()
+    void refusedValuesLeaveTheBodyAsItWas_data()
     {
-        QTest::addColumn<double>("density");
-        QTest::newRow("negative") << -1.0;
-        QTest::newRow("infinite") << double(INFINITY);
-        QTest::newRow("not a number") << double(NAN);
+        QTest::addColumn<QString>("property");
+        QTest::addColumn<QVariant>("value");
+        QTest::newRow("negative density") << "Density" << QVariant(-1.0);
+        QTest::newRow("density no float holds") << "Density" << QVariant(1e39);
+        QTest::newRow("density too small for a mass") << "Density" << QVariant(1e-30);
+        QTest::newRow("infinite position") << "X" << QVariant(double(INFINITY));
+        QTest::newRow("position beyond the world") << "Y" << QVariant(2e6);
+        QTest::newRow("angle not a number") << "Angle" << QVariant(double(NAN));
+        QTest::newRow("width of nothing") << "Width" << QVariant(0.0);
+        QTest::newRow("width not a number") << "Width" << QVariant(double(NAN));
+        QTest::newRow("degenerate width") << "Width" << QVariant(1e-4);
+        QTest::newRow("negative friction") << "Friction" << QVariant(-0.1);
+        QTest::newRow("negative damping") << "LinearDamping" << QVariant(-1.0);
+        QTest::newRow("spin no float holds") << "AngularVelocity" << QVariant(1e39);
+        QTest::newRow("group beyond 16 bits") << "FilterGroupIndex" << QVariant(40000);
+        QTest::newRow("no body type") << "BodyType" << QVariant(7);
+        QTest::newRow("text size of nothing") << "TextSize" << QVariant(0);
+        QTest::newRow("huge text size") << "TextSize" << QVariant(INT_MAX);
+        QTest::newRow("z value not a number") << "ZValue" << QVariant(double(NAN));
     }
-    void densityKeepsBadValuesAway()
+    void refusedValuesLeaveTheBodyAsItWas()
     {
-        QFETCH(double, density);
-        RectangleItem* body = world->createRectangle(0, 0, 0, 2, 1);
-        body->setDensity(density);
-        QCOMPARE(body->density(), 1.0);
+        QFETCH(QString, property);
+        QFETCH(QVariant, value);
+        RectangleItem* body = world->createRectangle(2, 3, 0, 2, 1);
+        const QByteArray name = property.toLatin1();
+        const QVariant before = body->property(name);
+        body->setProperty(name, value);
+        QCOMPARE(body->property(name), before);
         QCOMPARE(body->mass(), 2.0);
-        body->setDensity(3.0);
-        QCOMPARE(body->mass(), 6.0);
-    }
-
-    void nonFiniteGeometryStaysAwayFromBox2D()
-    {
-        RectangleItem* body = world->createRectangle(NAN, 1, 0, 1, 1);
-        QCOMPARE(body->position(), QPointF(0, 0));
-        body->setXForm(2, 3, 0);
-        body->setPositionX(double(INFINITY));
-        body->setAngle(double(NAN));
-        body->setXForm(NAN, 0, 0);
-        QCOMPARE(body->position(), QPointF(2, 3));
-        QCOMPARE(body->angle(), 0.0);
         world->step();
+        QCOMPARE(body->positionX(), 2.0);
     }
 
     void forcesActOnDynamicBodiesOnly()
@@ -212,7 +222,11 @@ private slots:
         body->scale(0.9090909090909091);
         QCOMPARE(body->width(), 0.11);
         QCOMPARE(body->height(), 1.0);
+        // A moving body keeps its velocity through the rebuild of its fixtures.
+        body->setLinearVelocity(1.0, -2.0);
         body->scale(2.0);
+        QCOMPARE(body->linearVelocityX(), 1.0);
+        QCOMPARE(body->linearVelocityY(), -2.0);
         QCOMPARE(body->width(), 0.22);
         QCOMPARE(body->height(), 2.0);
         QVERIFY(qAbs(body->mass() - 0.44) < 1e-5);
@@ -232,6 +246,11 @@ private slots:
         body->setTextSize(20);
         body->setTextColor(Qt::red);
         QVERIFY(textItem->isVisible());
+        // A text of any length is kept; a rectangle lays out only its beginning.
+        const QString longText(800000, QLatin1Char('x'));
+        body->setText(longText);
+        QCOMPARE(body->property("Text").toString(), longText);
+        QVERIFY(textItem->toPlainText().size() < 10000);
         body->setText(QString());
         QVERIFY(!textItem->isVisible());
         QCOMPARE(body->textSize(), 20);

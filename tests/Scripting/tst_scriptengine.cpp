@@ -59,6 +59,11 @@ private slots:
         QTest::newRow("standard object") << "Math";
         QTest::newRow("empty") << "";
         QTest::newRow("fixed global") << "world";
+        QTest::newRow("prototype of the global object") << "__proto__";
+        QTest::newRow("inherited by every object") << "toString";
+        QTest::newRow("reserved word") << "if";
+        QTest::newRow("no identifier") << "two words";
+        QTest::newRow("starts with a digit") << "1up";
     }
     void refusedNamesKeepTheOldOne()
     {
@@ -161,6 +166,63 @@ private slots:
         world()->step();
         world()->step();
         QCOMPARE(run(QStringLiteral("updates")).toInt32(), 2);
+    }
+
+    // What an event script does stays inside its event: it does not start itself again, and
+    // its errors do not reach the script that set a property or started the world.
+    void eventScriptsStayInside_data()
+    {
+        QTest::addColumn<QString>("event");
+        QTest::addColumn<QString>("script");
+        QTest::addColumn<QString>("trigger");
+        QTest::addColumn<int>("runs");
+        // A position setter updates twice; each update runs the script once.
+        QTest::newRow("update that moves its body") << "OnUpdate"
+                                                    << "runs++; this.X += 0.01;"
+                                                    << "r.X = 1;" << 2;
+        QTest::newRow("update that turns its body") << "OnUpdate"
+                                                    << "runs++; this.Angle = this.Angle + 1;"
+                                                    << "r.Angle = 5;" << 2;
+        QTest::newRow("start that starts the world") << "OnStart"
+                                                     << "runs++; world.start();"
+                                                     << "world.start(); world.stop();" << 1;
+        QTest::newRow("update that throws") << "OnUpdate"
+                                            << "runs++; throw new Error('update');"
+                                            << "r.X = 2;" << 2;
+        QTest::newRow("start that throws") << "OnStart"
+                                           << "runs++; throw new Error('start');"
+                                           << "world.start(); world.stop();" << 1;
+        QTest::newRow("stop that throws") << "OnStop"
+                                          << "runs++; throw new Error('stop');"
+                                          << "world.stop();" << 1;
+    }
+    void eventScriptsStayInside()
+    {
+        QFETCH(QString, event);
+        QFETCH(QString, script);
+        QFETCH(QString, trigger);
+        QFETCH(int, runs);
+        RectangleItem* item = world()->createRectangle(0, 0, 0, 1, 1);
+        run(QStringLiteral("runs = 0; finished = false; var r = %1;").arg(item->name()));
+        item->setProperty(event.toLatin1(), script);
+        const QScriptValue result = run(trigger + QStringLiteral(" finished = true;"));
+        QVERIFY2(!result.isError(), qPrintable(result.toString()));
+        QVERIFY(run(QStringLiteral("finished")).toBool());
+        QCOMPARE(run(QStringLiteral("runs")).toInt32(), runs);
+    }
+
+    void languagesByNumber()
+    {
+        MessageLog log;
+        run(QStringLiteral("app.setLanguage(%1);").arg(int(QLocale::German)));
+        QCOMPARE(run(QStringLiteral("app.language()")).toInt32(), int(QLocale::German));
+        for (const int unknown : {int(QLocale::Finnish), -5}) {
+            run(QStringLiteral("app.setLanguage(%1);").arg(unknown));
+            QCOMPARE(Application::instance()->language(), QLocale::German);
+        }
+        QCOMPARE(log.lines().filter(QStringLiteral("%1").arg(int(QLocale::Finnish))).size(), 1);
+        run(QStringLiteral("app.setLanguage(%1);").arg(int(QLocale::English)));
+        QCOMPARE(Application::instance()->language(), QLocale::English);
     }
 
     void itemTypesConvertByRealClass()
@@ -270,6 +332,15 @@ private slots:
         nul.write(QByteArray("afterNul = 1;\0garbage(", 22));
         nul.close();
         QVERIFY(Application::instance()->evaluateScript(nul.fileName()));
+        // Devices never end, and no script is this large.
+        QVERIFY(!Application::instance()->evaluateScript(QStringLiteral("/dev/zero")));
+        QFile large(directory.filePath(QStringLiteral("large.script")));
+        QVERIFY(large.open(QIODevice::WriteOnly));
+        large.write(QByteArray(4 * 1024 * 1024 + 1, ' '));
+        large.close();
+        MessageLog log;
+        QVERIFY(!Application::instance()->evaluateScript(large.fileName()));
+        QCOMPARE(log.lines().filter(QStringLiteral("large.script")).size(), 1);
     }
 };
 

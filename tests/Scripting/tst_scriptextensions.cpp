@@ -338,6 +338,11 @@ void tst_ScriptExtensions::methods_data()
         << "var a = new QPointF(1, 2); var b = a; b.setX(5); a.x()" << QVariant(5.0);
     QTest::newRow("copy is independent")
         << "var a = new QPointF(1, 2); var b = new QPointF(a); b.setX(5); a.x()" << QVariant(1.0);
+    QTest::newRow("polygon grown in place")
+        << "var a = new QPolygonF(); var b = a; var c = new QPolygonF(a);"
+           " for (var i = 0; i < 100000; ++i) b.append(new QPointF(i, 0));"
+           " [a.size(), c.size(), a.at(99999).x()].join()"
+        << QVariant("100000,0,99999");
     QTest::newRow("QPointF setY") << "var p = new QPointF(1, 2); p.setY(-3); p.y()"
                                   << QVariant(-3.0);
     QTest::newRow("QPointF manhattanLength")

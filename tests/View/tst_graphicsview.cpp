@@ -708,6 +708,8 @@ private slots:
         QTest::keyPress(view, Qt::Key_A);
         QCOMPARE(active->zValue(), double(Qt::Key_A));
         QCOMPARE(inactive->zValue(), inactiveZ);
+        QVERIFY(!world->contains(removed));
+        QCoreApplication::processEvents(); // items that scripts remove go in the event loop
         QVERIFY(removedGuard.isNull());
         QVERIFY(suicidalGuard.isNull());
         QCOMPARE(active->opacity(), 1.0);

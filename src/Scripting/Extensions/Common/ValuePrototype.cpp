@@ -30,9 +30,16 @@ QStringList ValuePrototype::format(std::initializer_list<qreal> numbers)
     return result;
 }
 
-void ValuePrototype::writeThis(QVariant value)
+int ValuePrototype::releaseThis()
 {
-    value.convert(thisObject().toVariant().userType());
+    const int type = thisObject().toVariant().userType();
+    engine()->newVariant(thisObject(), QVariant(type, nullptr));
+    return type;
+}
+
+void ValuePrototype::writeThis(QVariant value, int type)
+{
+    value.convert(type);
     engine()->newVariant(thisObject(), value);
 }
 

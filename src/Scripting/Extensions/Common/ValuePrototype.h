@@ -44,14 +44,17 @@ protected:
         return value;
     }
 
-    // Applies change to the value of `this` and stores the result in `this`.
+    // Applies change to the value of `this` and stores the result in `this`. Meanwhile `this`
+    // holds an empty value of its type, so that the value is not shared and changes in place:
+    // a polygon that grows point by point does not copy itself at each point.
     template<typename V, typename Change> void changeThis(Change change)
     {
         V value;
         if (!readThis(&value))
             return;
+        const int type = releaseThis();
         change(value);
-        writeThis(QVariant::fromValue(value));
+        writeThis(QVariant::fromValue(value), type);
     }
 
     // Reads a method argument that must be a value of Prototype; TypeError if it is not.
@@ -86,7 +89,9 @@ protected:
     static QStringList format(std::initializer_list<qreal> numbers);
 
 private:
-    // Stores value in `this`, converted to the type that `this` holds (QPointF to QPoint).
-    void writeThis(QVariant value);
+    // Leaves `this` with a default value of its type, which it returns.
+    int releaseThis();
+    // Stores value in `this`, converted to `this`'s type (QPointF to QPoint).
+    void writeThis(QVariant value, int type);
     void throwError(QScriptContext::Error error, const QString& text) const;
 };
