@@ -16,8 +16,8 @@
 double BodyItem::zValueCounter = 0.0;
 
 namespace {
-// Box2D looks each proxy it destroys up among all proxies made since its last step. A body of
-// this many fixtures has it pair its new proxies first.
+// Box2D searches all fixtures of a body, and all proxies made since its last step, for each
+// fixture it makes or destroys: changes of this many fixtures go round it.
 const int manyFixtures = 256;
 
 // The float value of pi/180 as a double, and 180/pi as a float: the factors the properties
@@ -502,13 +502,16 @@ QPointF BodyItem::position() const
     return QPointF(position.x, position.y);
 }
 
-BodyItem::FixtureBatch::FixtureBatch(BodyItem* item)
+BodyItem::FixtureBatch::FixtureBatch(BodyItem* item, int fixtureCount)
     : body(item->pBody)
+    , batched(fixtureCount >= manyFixtures)
     , type(body->GetType())
     , enabled(body->IsEnabled())
     , linearVelocity(body->GetLinearVelocity())
     , angularVelocity(body->GetAngularVelocity())
 {
+    if (!batched)
+        return;
     // Off first: a change of type touches every proxy the body has.
     item->settleProxies();
     body->SetEnabled(false);
@@ -518,6 +521,8 @@ BodyItem::FixtureBatch::FixtureBatch(BodyItem* item)
 
 BodyItem::FixtureBatch::~FixtureBatch()
 {
+    if (!batched)
+        return;
     if (type == b2_dynamicBody) {
         body->SetType(b2_dynamicBody);
         body->SetLinearVelocity(linearVelocity);
@@ -536,7 +541,7 @@ void BodyItem::settleProxies()
 
 void BodyItem::setShapes(const QList<b2Shape*>& shapes)
 {
-    FixtureBatch batch(this);
+    FixtureBatch batch(this, fixtures.size() + shapes.size());
     destroyFixtures();
     deleteFixtureDefinitions();
     for (b2Shape* shape : shapes)
@@ -561,7 +566,7 @@ void BodyItem::createFixture(b2Shape* shape)
 void BodyItem::destroyFixtures()
 {
     // Box2D looks a fixture up from the newest on: the newest goes first.
-    FixtureBatch batch(this);
+    FixtureBatch batch(this, fixtures.size());
     for (auto fixture = fixtures.crbegin(); fixture != fixtures.crend(); ++fixture)
         pBody->DestroyFixture(*fixture);
     fixtures.clear();
@@ -577,7 +582,7 @@ void BodyItem::deleteFixtureDefinitions()
 
 void BodyItem::recreateFixtures()
 {
-    FixtureBatch batch(this);
+    FixtureBatch batch(this, 2 * fixtures.size());
     destroyFixtures();
     for (b2FixtureDef* definition : qAsConst(fixtureDefinitions))
         fixtures.append(pBody->CreateFixture(definition));

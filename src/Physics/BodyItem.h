@@ -157,19 +157,21 @@ protected:
 private:
     // For each fixture it makes or destroys, Box2D works the body's mass out anew over all
     // its fixtures, and looks the fixture's proxy up among all proxies made since the last
-    // step: quadratic in outlines of thousands of triangles. Changes of fixtures run inside a
-    // batch: meanwhile the body is switched off, so that its fixtures have no proxies, and
-    // kinematic, which has no mass; at the end the mass is worked out and the proxies are
-    // made once. The body keeps its velocities; its contacts and the forces applied for the
-    // next step are dropped, as Box2D drops them when a body changes type.
+    // step: quadratic in outlines of thousands of triangles. Changes of that many fixtures
+    // run inside a batch: meanwhile the body is switched off, so that its fixtures have no
+    // proxies, and kinematic, which has no mass; at the end the mass is worked out and the
+    // proxies are made once. The body keeps its velocities; its contacts and the forces
+    // applied for the next step are dropped, as Box2D drops them when a body changes type.
+    // Changes of fewer fixtures go to Box2D one by one.
     class FixtureBatch
     {
     public:
-        explicit FixtureBatch(BodyItem* item);
+        FixtureBatch(BodyItem* item, int fixtureCount);
         ~FixtureBatch();
 
     private:
         b2Body* body;
+        bool batched;
         b2BodyType type;
         bool enabled;
         b2Vec2 linearVelocity;

@@ -131,11 +131,7 @@ void PolygonItem::scale(double factor)
         return;
     }
 
-    QPainterPath path;
-    path.addPolygon(scaled);
-    QList<XPolygonF> worldTriangles;
-    for (const QPolygonF& subpath : path.simplified().toSubpathPolygons())
-        worldTriangles += XPolygonF(subpath).triangulate();
+    const QList<XPolygonF> worldTriangles = XPolygonF(scaled).triangulate();
 
     // Back to body coordinates through the body's own pose, without the drawing's scale.
     const b2Transform& pose = body()->GetTransform();

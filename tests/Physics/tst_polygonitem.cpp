@@ -4,6 +4,7 @@
 #include "Physics/GearItem.h"
 #include "Physics/PhysicsWorld.h"
 #include "Physics/PolygonItem.h"
+#include "Physics/RectangleItem.h"
 
 #include <QFile>
 #include <QGraphicsPathItem>
@@ -156,6 +157,36 @@ private slots:
         polygon->setProperty("ShowWireframe", true);
         QVERIFY(wireframe->isVisible());
         QVERIFY(polygon->showWireframe());
+    }
+
+    // An outline of hundreds of triangles has its fixtures made and remade as one batch: the
+    // mass is still that of the whole area, the body keeps its motion, and it collides.
+    void manyTrianglesRebuildAsOne()
+    {
+        QPolygonF comb;
+        for (int tooth = 0; tooth < 200; ++tooth)
+            comb << QPointF(tooth * 0.1, 1) << QPointF(tooth * 0.1 + 0.05, 2);
+        comb << QPointF(20, 1) << QPointF(20, 0) << QPointF(0, 0);
+        PolygonItem* polygon = addPolygon(comb);
+        QVERIFY(polygon->shapeCount() > 300);
+        const double area = 20.0 + 200 * 0.5 * 0.1; // the strip and its teeth
+        QVERIFY(qAbs(polygon->mass() - area) < 1e-3);
+        polygon->setLinearVelocity(1.0, 2.0);
+        polygon->setAngularVelocity(0.5);
+        polygon->setFriction(0.9);
+        QCOMPARE(polygon->linearVelocityX(), 1.0);
+        QCOMPARE(polygon->linearVelocityY(), 2.0);
+        QCOMPARE(polygon->angularVelocity(), 0.5);
+        QVERIFY(qAbs(polygon->mass() - area) < 1e-3);
+        QVERIFY(polygon->isActive());
+        QVERIFY(coversWorldPoint(polygon, polygon->position() + QPointF(0, -0.2)));
+        world->createRectangle(polygon->positionX(), -1, 0, 30, 1)
+            ->setBodyType(BodyItem::StaticBody);
+        polygon->setLinearVelocity(0.0, 0.0);
+        polygon->setAngularVelocity(0.0);
+        for (int i = 0; i < 120; ++i)
+            world->step();
+        QVERIFY(polygon->positionY() > 0.5);
     }
 
     void keyholeLeavesItsHoleOpen()
