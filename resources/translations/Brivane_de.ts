@@ -39,6 +39,10 @@
         <source>%1 is not evaluated: a script file may hold at most %2 MB.</source>
         <translation>%1 wird nicht ausgewertet: Eine Skriptdatei darf höchstens %2 MB groß sein.</translation>
     </message>
+    <message>
+        <source>Loading...</source>
+        <translation>Wird geladen...</translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -581,6 +585,10 @@
         <source>*.script</source>
         <translation>*.script</translation>
     </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
 </context>
 <context>
     <name>PlayPauseAction</name>
@@ -727,6 +735,17 @@ Höhe=%2</translation>
     <message>
         <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
         <translation>&lt;B&gt;Y&lt;/B&gt;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>XMLReader</name>
+    <message>
+        <source>Trying to load a scene which was created with another version of the application. </source>
+        <translation>Es wird eine Szene geladen, die mit einer anderen Version des Programms erstellt wurde. </translation>
+    </message>
+    <message>
+        <source>(Scene version: %1 Application version: %2)</source>
+        <translation>(Szenenversion: %1, Programmversion: %2)</translation>
     </message>
 </context>
 <context>

@@ -39,6 +39,10 @@
         <source>%1 is not evaluated: a script file may hold at most %2 MB.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Loading...</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -581,6 +585,10 @@
         <source>*.script</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PlayPauseAction</name>
@@ -725,6 +733,17 @@ height=%2</source>
     </message>
     <message>
         <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>XMLReader</name>
+    <message>
+        <source>Trying to load a scene which was created with another version of the application. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(Scene version: %1 Application version: %2)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

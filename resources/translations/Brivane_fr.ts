@@ -39,6 +39,10 @@
         <source>%1 is not evaluated: a script file may hold at most %2 MB.</source>
         <translation>%1 n’est pas évalué : un fichier de script peut contenir au plus %2 Mo.</translation>
     </message>
+    <message>
+        <source>Loading...</source>
+        <translation>Chargement...</translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -581,6 +585,10 @@
         <source>*.script</source>
         <translation>*.script</translation>
     </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
 </context>
 <context>
     <name>PlayPauseAction</name>
@@ -727,6 +735,17 @@ hauteur=%2</translation>
     <message>
         <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
         <translation>&lt;B&gt;Y&lt;/B&gt; : %1</translation>
+    </message>
+</context>
+<context>
+    <name>XMLReader</name>
+    <message>
+        <source>Trying to load a scene which was created with another version of the application. </source>
+        <translation>Chargement d'une scène créée avec une autre version de l'application. </translation>
+    </message>
+    <message>
+        <source>(Scene version: %1 Application version: %2)</source>
+        <translation>(Version de la scène : %1, version de l'application : %2)</translation>
     </message>
 </context>
 <context>

@@ -39,6 +39,10 @@
         <source>%1 is not evaluated: a script file may hold at most %2 MB.</source>
         <translation>%1 non viene valutato: un file di script può contenere al massimo %2 MB.</translation>
     </message>
+    <message>
+        <source>Loading...</source>
+        <translation>Caricamento...</translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -581,6 +585,10 @@
         <source>*.script</source>
         <translation>*.script</translation>
     </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
 </context>
 <context>
     <name>PlayPauseAction</name>
@@ -727,6 +735,17 @@ altezza=%2</translation>
     <message>
         <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
         <translation>&lt;B&gt;Y&lt;/B&gt;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>XMLReader</name>
+    <message>
+        <source>Trying to load a scene which was created with another version of the application. </source>
+        <translation>Caricamento di una scena creata con un'altra versione dell'applicazione. </translation>
+    </message>
+    <message>
+        <source>(Scene version: %1 Application version: %2)</source>
+        <translation>(Versione della scena: %1, versione dell'applicazione: %2)</translation>
     </message>
 </context>
 <context>

@@ -39,6 +39,10 @@
         <source>%1 is not evaluated: a script file may hold at most %2 MB.</source>
         <translation>%1 не выполняется: файл сценария может занимать не более %2 МБ.</translation>
     </message>
+    <message>
+        <source>Loading...</source>
+        <translation>Загрузка...</translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -581,6 +585,10 @@
         <source>*.script</source>
         <translation>*.script</translation>
     </message>
+    <message>
+        <source>Save</source>
+        <translation>Сохранить</translation>
+    </message>
 </context>
 <context>
     <name>PlayPauseAction</name>
@@ -727,6 +735,17 @@ height=%2</source>
     <message>
         <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
         <translation>&lt;B&gt;Y&lt;/B&gt;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>XMLReader</name>
+    <message>
+        <source>Trying to load a scene which was created with another version of the application. </source>
+        <translation>Загружается сцена, созданная другой версией программы. </translation>
+    </message>
+    <message>
+        <source>(Scene version: %1 Application version: %2)</source>
+        <translation>(Версия сцены: %1, версия программы: %2)</translation>
     </message>
 </context>
 <context>

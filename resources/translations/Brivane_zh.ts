@@ -39,6 +39,10 @@
         <source>%1 is not evaluated: a script file may hold at most %2 MB.</source>
         <translation>未执行 %1：脚本文件最大为 %2 MB。</translation>
     </message>
+    <message>
+        <source>Loading...</source>
+        <translation>正在加载...</translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -581,6 +585,10 @@
         <source>*.script</source>
         <translation>*.script</translation>
     </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
 </context>
 <context>
     <name>PlayPauseAction</name>
@@ -727,6 +735,17 @@ height=%2</source>
     <message>
         <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
         <translation>&lt;B&gt;Y&lt;/B&gt;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>XMLReader</name>
+    <message>
+        <source>Trying to load a scene which was created with another version of the application. </source>
+        <translation>正在加载由其他版本的应用程序创建的场景。</translation>
+    </message>
+    <message>
+        <source>(Scene version: %1 Application version: %2)</source>
+        <translation>(场景版本：%1，应用程序版本：%2)</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,9 @@
 #include "Application/Application.h"
 
 #include "Application/Settings.h"
+#include "Files/SceneFile.h"
+#include "Files/XMLReader.h"
+#include "Files/XMLWriter.h"
 #include "Gui/MainWindow.h"
 #include "NemuToolbox/Toolbox.h"
 #include "Physics/BalloonItem.h"
@@ -27,6 +30,7 @@
 #include <QGLFormat>
 #include <QOpenGLContext>
 #include <QPixmap>
+#include <QProgressDialog>
 #include <QScriptEngine>
 #include <QScriptEngineDebugger>
 #include <QScriptValueIterator>
@@ -222,6 +226,57 @@ void Application::newFile(bool createGround)
         mainWindow->graphicsView()->reset();
     fileName.clear();
     emit fileCreated();
+}
+
+bool Application::save(QString filename)
+{
+    GraphicsView* view = mainWindow ? mainWindow->graphicsView() : nullptr;
+    QString document;
+    XMLWriter(&document).writeScene(PhysicsWorld::instance(), view);
+    QImage thumbnail = view ? view->image(SceneFile::thumbnailSize) : QImage();
+    if (thumbnail.isNull()) {
+        thumbnail = QImage(SceneFile::thumbnailSize, QImage::Format_RGB32);
+        thumbnail.fill(Qt::white);
+    }
+    if (!SceneFile(filename).save(document, thumbnail))
+        return false;
+    fileName = filename;
+    emit fileSaved(filename);
+    return true;
+}
+
+bool Application::load(QString filename)
+{
+    // The progress dialog lets events through while a scene is read.
+    if (loading)
+        return false;
+    const QString extracted = SceneFile(filename).extractScene();
+    QFile file(extracted);
+    if (extracted.isEmpty())
+        return false;
+    if (!file.open(QIODevice::ReadOnly)) {
+        file.remove();
+        return false;
+    }
+    loading = true;
+    newFile(false);
+    XMLReader reader(&file, mainWindow ? mainWindow->graphicsView() : nullptr);
+    QProgressDialog progress(tr("Loading..."), QString(), 0, int(file.size()), mainWindow);
+    progress.setWindowModality(Qt::WindowModal);
+    progress.setMinimumDuration(250);
+    // Every token reports its position; the dialog needs to hear of each percent only.
+    const qint64 percent = qMax<qint64>(1, file.size() / 100);
+    connect(&reader, &XMLReader::elementRead, &progress, [&progress, percent](int position) {
+        if (position - progress.value() >= percent)
+            progress.setValue(position);
+    });
+    reader.read();
+    file.close();
+    file.remove();
+    loading = false;
+    fileName = filename;
+    emit fileLoaded(filename);
+    return true;
 }
 
 namespace {

@@ -67,6 +67,7 @@ public:
     QScriptEngineDebugger* scriptDebugger = nullptr;
     QUndoStack* undoStack = nullptr;
     QString fileName;
+    bool loading = false;
     QTranslator* translator = nullptr;
     QHash<QLocale::Language, QTranslator*> translators;
 
@@ -82,6 +83,12 @@ public slots:
     void debug(QString text);
     void grabWidgetUnderCursor();
     void newFile(bool createGround = false);
+    // Writes the scene, as it stands now, to the archive of that name; false if it could not,
+    // and then the file that was there is as it was.
+    bool save(QString filename);
+    // Replaces the scene by the one in the archive, stopped and with no undo history; false,
+    // with the scene untouched, if the archive holds no readable document.
+    bool load(QString filename);
     bool evaluateScript(QString scriptFilename);
     void scriptingProperties(QScriptValue v);
     void globalScriptingProperties();

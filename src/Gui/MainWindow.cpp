@@ -2,6 +2,7 @@
 
 #include "Application/Application.h"
 #include "Application/Settings.h"
+#include "Files/SceneFile.h"
 #include "Physics/PhysicsItem.h"
 #include "Physics/PhysicsWorld.h"
 #include "Tools/ActionContextToolBar.h"
@@ -33,6 +34,7 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QMenuBar>
+#include <QSettings>
 #include <QTabBar>
 #include <QToolBar>
 #include <QUndoStack>
@@ -52,6 +54,18 @@ QWidget* placeholderPanel(const char* className)
     auto* panel = new QWidget();
     panel->setObjectName(QLatin1String(className));
     return panel;
+}
+
+// A folder of the data beside the executable, where the file dialogs start.
+QString dataDirectory(const char* name)
+{
+    return QCoreApplication::applicationDirPath() + QDir::separator() + QStringLiteral("data")
+        + QDir::separator() + QLatin1String(name);
+}
+
+QString sceneFilter()
+{
+    return QStringLiteral("*.%1").arg(SceneFile::extension);
 }
 
 template<typename Bar> void setAllVisible(QMainWindow* window, bool visible)
@@ -111,11 +125,11 @@ MainWindow::actionRows()
         {Id::New, QT_TR_NOOP("New Scene"), QT_TR_NOOP("Creates a new scene"), "new", Key::New, 0,
          &MainWindow::makeCommand, &MainWindow::onNew},
         {Id::Save, QT_TR_NOOP("Save Scene"), QT_TR_NOOP("Saves current scene"), "save", Key::Save,
-         0, &MainWindow::makeCommand, nullptr},
+         0, &MainWindow::makeCommand, &MainWindow::onSave},
         {Id::SaveAs, QT_TR_NOOP("Save Scene As..."), QT_TR_NOOP("Saves current scene as"), "saveAs",
-         Key::SaveAs, 0, &MainWindow::makeCommand, nullptr},
+         Key::SaveAs, 0, &MainWindow::makeCommand, &MainWindow::onSaveAs},
         {Id::Load, QT_TR_NOOP("Load Scene..."), QT_TR_NOOP("Loads a scene"), "load", Key::Open, 0,
-         &MainWindow::makeCommand, nullptr},
+         &MainWindow::makeCommand, &MainWindow::onLoad},
         {Id::Upload, QT_TR_NOOP("Upload Scene..."), QT_TR_NOOP("Uploads current scene to %1"),
          "upload", none, 0, &MainWindow::makeCommand, nullptr},
         {Id::Download, QT_TR_NOOP("Download Scenes..."), QT_TR_NOOP("Downloads scenes from %1"),
@@ -337,6 +351,21 @@ void MainWindow::createActions()
     }
     action(ActionId::Select)->setChecked(true);
     view->currentAction = qobject_cast<GraphicsViewAction*>(action(ActionId::Select));
+    createPerspectiveActions();
+}
+
+void MainWindow::createPerspectiveActions()
+{
+    QSettings perspectives(QStringLiteral(":/text/db.ini"), QSettings::IniFormat);
+    perspectives.beginGroup(QStringLiteral("PERSPECTIVES"));
+    // Keys come back sorted, which gives the order of the menu and of the shortcuts.
+    for (const QString& name : perspectives.allKeys()) {
+        auto* perspective = new Action(resourceIcon("perspective"), name, this);
+        perspective->setData(perspectives.value(name).toByteArray());
+        perspective->setShortcut(QKeySequence(Qt::ALT | (Qt::Key_1 + perspectiveActions.size())));
+        connect(perspective, &QAction::triggered, this, &MainWindow::onPerspectiveSelected);
+        perspectiveActions.append(perspective);
+    }
 }
 
 QAction* MainWindow::makeCommand(const ActionRow& row)
@@ -466,6 +495,7 @@ void MainWindow::fillMenus()
     viewMenu->addMenu(toolBarsMenu);
     viewMenu->addMenu(dockWidgetsMenu);
     viewMenu->addMenu(perspectivesMenu);
+    perspectivesMenu->addActions(perspectiveActions);
     viewMenu->addSeparator();
     viewMenu->addAction(action(Id::Fullscreen));
     addActionList(helpMenu, {Id::Help, Id::Separator, Id::About, Id::AboutQt});
@@ -609,12 +639,48 @@ void MainWindow::onNew()
     Application::instance()->newFile(Settings::instance()->createGroundOnStartup);
 }
 
+void MainWindow::onSave()
+{
+    const QString filename = Application::instance()->fileName;
+    if (filename.isEmpty())
+        onSaveAs();
+    else
+        Application::instance()->save(filename);
+}
+
+void MainWindow::onSaveAs()
+{
+    QString filename
+        = QFileDialog::getSaveFileName(this, tr("Save"), dataDirectory("saves"), sceneFilter());
+    if (filename.isEmpty())
+        return;
+    const QString suffix = QLatin1Char('.') + SceneFile::extension;
+    if (!filename.endsWith(suffix))
+        filename += suffix;
+    Application::instance()->save(filename);
+}
+
+void MainWindow::onLoad()
+{
+    const QString filename
+        = QFileDialog::getOpenFileName(this, tr("Load"), dataDirectory("saves"), sceneFilter());
+    if (!filename.isEmpty())
+        Application::instance()->load(filename);
+}
+
+void MainWindow::onPerspectiveSelected()
+{
+    auto* perspective = qobject_cast<QAction*>(sender());
+    if (!perspective)
+        return;
+    restoreState(perspective->data().toByteArray(), 0);
+    view->zoomExtents();
+}
+
 void MainWindow::onEvaluateScript()
 {
-    const QString directory = QCoreApplication::applicationDirPath() + QDir::separator()
-        + QStringLiteral("data") + QDir::separator() + QStringLiteral("scripts");
     const QString filename
-        = QFileDialog::getOpenFileName(this, tr("Load"), directory, tr("*.script"));
+        = QFileDialog::getOpenFileName(this, tr("Load"), dataDirectory("scripts"), tr("*.script"));
     if (!filename.isEmpty())
         Application::instance()->evaluateScript(filename);
 }

@@ -88,6 +88,8 @@ public:
 
     GraphicsView* graphicsView() const { return view; }
     QAction* action(ActionId id) const { return actions[std::size_t(id)]; }
+    // The stored layouts of the View menu, in the order of their shortcuts.
+    const QList<QAction*>& perspectives() const { return perspectiveActions; }
 
     // Deletes, later, every tracked child that is still a child of this window, except the
     // parts of the window's own dock layout, and forgets them all. A new scene calls it, so
@@ -110,6 +112,10 @@ private slots:
     void onFileSaved(QString filename);
     void onFileLoaded(QString filename);
     void onNew();
+    void onSave();
+    void onSaveAs();
+    void onLoad();
+    void onPerspectiveSelected();
     void onEvaluateScript();
     void onQuit();
     void onSelectAll();
@@ -136,6 +142,8 @@ private:
     static const QVector<MenuRow>& menuRows();
 
     void createActions();
+    // One action per stored layout, with Alt and its number.
+    void createPerspectiveActions();
     void createMenus();
     void createToolBars();
     void createDockWidgets();
@@ -174,6 +182,7 @@ private:
     // In the order of the toolbar and dock tables, for their titles.
     QList<QToolBar*> toolBars;
     QList<QDockWidget*> dockWidgets;
+    QList<QAction*> perspectiveActions;
     ActionContextToolBar* contextToolBar = nullptr;
     StatusBar* statusLine = nullptr;
     QWidget* propertyEditor = nullptr;

@@ -14,6 +14,7 @@
 #include <cmath>
 
 int PhysicsItem::physicsItemInstanceCounter = 0;
+int PhysicsItem::eventScriptBlockers = 0;
 
 namespace {
 QScriptEngine* scriptEngine()
@@ -182,7 +183,7 @@ void PhysicsItem::runEventScript(const QString& field, const char* functionName,
         return;
     // An event does not start again inside itself: an OnUpdate that moves its body runs
     // update() from the setter, and that would run the OnUpdate again, and so on.
-    if (field.isEmpty() || runningScripts.contains(&field))
+    if (field.isEmpty() || runningScripts.contains(&field) || eventScriptBlockers > 0)
         return;
     QScriptEngine* engine = scriptEngine();
     if (!engine)

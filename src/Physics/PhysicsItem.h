@@ -49,6 +49,17 @@ public:
         SpringForceType = 12
     };
 
+    // While one exists no event script runs: the setters that a scene being read calls would
+    // otherwise run the scene's own OnUpdate scripts before the user has played it.
+    class EventScriptBlocker
+    {
+    public:
+        EventScriptBlocker() { ++eventScriptBlockers; }
+        ~EventScriptBlocker() { --eventScriptBlockers; }
+        EventScriptBlocker(const EventScriptBlocker&) = delete;
+        EventScriptBlocker& operator=(const EventScriptBlocker&) = delete;
+    };
+
     PhysicsItem();
     ~PhysicsItem() override;
 
@@ -88,6 +99,7 @@ public:
     QScriptValue toScriptValue() const;
 
     static int physicsItemInstanceCounter;
+    static int eventScriptBlockers;
 
 public slots:
     void setName(QString newName);

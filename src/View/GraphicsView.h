@@ -21,11 +21,13 @@ class StatusBar;
 class GraphicsView : public QGraphicsView
 {
     Q_OBJECT
-    Q_PROPERTY(QBrush Background READ backgroundBrush WRITE setBackground NOTIFY backgroundChanged)
+    // The view's part of a scene file: the only properties of the view flagged USER.
+    Q_PROPERTY(QBrush Background READ backgroundBrush WRITE setBackground NOTIFY backgroundChanged
+                   USER true)
     Q_PROPERTY(QString BodyWithCamera READ bodyWithCamera WRITE setBodyWithCamera NOTIFY
-                   bodyWithCameraChanged)
-    Q_PROPERTY(double Scale READ scale WRITE setScale NOTIFY scaleChanged)
-    Q_PROPERTY(QRectF VisibleSceneRect READ visibleSceneRect WRITE setVisibleSceneRect)
+                   bodyWithCameraChanged USER true)
+    Q_PROPERTY(double Scale READ scale WRITE setScale NOTIFY scaleChanged USER true)
+    Q_PROPERTY(QRectF VisibleSceneRect READ visibleSceneRect WRITE setVisibleSceneRect USER true)
 
 public:
     explicit GraphicsView(QWidget* parent = nullptr);

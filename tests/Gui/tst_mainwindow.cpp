@@ -11,6 +11,7 @@
 
 #include <QActionGroup>
 #include <QDesktopWidget>
+#include <QDir>
 #include <QDockWidget>
 #include <QFileDialog>
 #include <QGraphicsItem>
@@ -98,6 +99,26 @@ class TestMainWindow : public QObject
     PhysicsWorld* world() { return PhysicsWorld::instance(); }
     QAction* action(Id id) { return window()->action(id); }
 
+    // Answers the next file dialog with the file, or cancels it for an empty name, and keeps
+    // the dialog's caption in dialogCaption.
+    void answerFileDialog(const QString& file)
+    {
+        dialogCaption.clear();
+        QTimer::singleShot(0, this, [this, file] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            dialogCaption = dialog->windowTitle();
+            if (file.isEmpty()) {
+                dialog->reject();
+                return;
+            }
+            dialog->selectFile(file);
+            static_cast<QDialog*>(dialog)->accept();
+        });
+    }
+
+    QString dialogCaption;
+
 private slots:
     void initTestCase()
     {
@@ -124,9 +145,9 @@ private slots:
         };
         using Key = QKeySequence;
         row(Id::New, "New Scene", "Creates a new scene", "new", Key::New, true);
-        row(Id::Save, "Save Scene", "Saves current scene", "save", Key::Save, false);
-        row(Id::SaveAs, "Save Scene As...", "Saves current scene as", "saveAs", Key::SaveAs, false);
-        row(Id::Load, "Load Scene...", "Loads a scene", "load", Key::Open, false);
+        row(Id::Save, "Save Scene", "Saves current scene", "save", Key::Save, true);
+        row(Id::SaveAs, "Save Scene As...", "Saves current scene as", "saveAs", Key::SaveAs, true);
+        row(Id::Load, "Load Scene...", "Loads a scene", "load", Key::Open, true);
         row(Id::Upload, "Upload Scene...", "Uploads current scene to " + website, "upload", Key(),
             false);
         row(Id::Download, "Download Scenes...", "Downloads scenes from " + website, "download",
@@ -404,7 +425,7 @@ private slots:
                               "Quick Load", "Commands History", "-", "Show all", "Hide all"}));
         QCOMPARE(viewEntries.at(2)->menu()->actions().at(7), action(Id::ShowAllDockWidgets));
         QMenu* perspectives = viewEntries.at(3)->menu();
-        QVERIFY(perspectives->actions().isEmpty());
+        QCOMPARE(perspectives->actions(), window()->perspectives());
         QCOMPARE(iconImage(perspectives->icon()), resourceImage(QStringLiteral("perspective")));
     }
 
@@ -748,6 +769,104 @@ private slots:
         QCOMPARE(
             window()->findChild<QDockWidget*>(QStringLiteral("ConsoleDockWidget"))->windowTitle(),
             QStringLiteral("Console"));
+    }
+
+    void perspectives_data()
+    {
+        QTest::addColumn<int>("index");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QStringList>("shownDocks");
+        QTest::addColumn<int>("quickLoadArea");
+        QTest::addColumn<bool>("compact");
+        const int left = Qt::LeftDockWidgetArea;
+        QTest::newRow("Classic") << 0 << "Classic"
+                                 << QStringList {"ScenePropertiesDockWidget", "QuickLoadDockWidget",
+                                                 "PropertyEditorDockWidget"}
+                                 << left << false;
+        QTest::newRow("Compact") << 1 << "Compact" << QStringList() << left << true;
+        QTest::newRow("Minimal") << 2 << "Minimal" << QStringList() << left << false;
+        QTest::newRow("QuickLoad") << 3 << "QuickLoad" << QStringList {"QuickLoadDockWidget"}
+                                   << int(Qt::RightDockWidgetArea) << false;
+    }
+
+    void perspectives()
+    {
+        QFETCH(int, index);
+        QFETCH(QString, name);
+        QFETCH(QStringList, shownDocks);
+        QFETCH(int, quickLoadArea);
+        QFETCH(bool, compact);
+        QCOMPARE(window()->perspectives().size(), 4);
+        QAction* perspective = window()->perspectives().at(index);
+        QCOMPARE(perspective->text(), name);
+        QCOMPARE(perspective->shortcut(), QKeySequence(Qt::ALT | (Qt::Key_1 + index)));
+        perspective->trigger();
+        for (QDockWidget* dock : window()->findChildren<QDockWidget*>()) {
+            QCOMPARE(dock->isVisibleTo(window()), shownDocks.contains(dock->objectName()));
+            QCOMPARE(dock->isFloating(), dock->objectName() == "SettingsDockWidget");
+        }
+        const auto dock = [this](const char* name) {
+            return window()->dockWidgetArea(window()->findChild<QDockWidget*>(name));
+        };
+        QCOMPARE(int(dock("QuickLoadDockWidget")), quickLoadArea);
+        QCOMPARE(dock("ConsoleDockWidget"), Qt::BottomDockWidgetArea);
+        QCOMPARE(dock("UndoViewDockWidget"), Qt::RightDockWidgetArea);
+        for (QToolBar* bar : window()->findChildren<QToolBar*>()) {
+            QVERIFY(bar->isVisibleTo(window()));
+            Qt::ToolBarArea area = Qt::TopToolBarArea;
+            if (compact && bar->objectName() == "ActionContextToolbar")
+                area = Qt::BottomToolBarArea;
+            else if (compact && bar->objectName() != "SnapToolbar")
+                area = Qt::LeftToolBarArea;
+            QCOMPARE(window()->toolBarArea(bar), area);
+        }
+    }
+
+    // What the file dialogs give: the typed name, the extension added only where it is not
+    // already there in lower case, nothing at all on Cancel.
+    void saveAsAddsTheExtension_data()
+    {
+        QTest::addColumn<QString>("typed"); // empty: the dialog is cancelled
+        QTest::addColumn<QString>("saved");
+        QTest::newRow("bare name") << "first"
+                                   << "first.scene";
+        QTest::newRow("with extension") << "second.scene"
+                                        << "second.scene";
+        QTest::newRow("upper-case extension") << "third.SCENE"
+                                              << "third.SCENE.scene";
+        QTest::newRow("cancelled") << QString() << QString();
+    }
+
+    void saveAsAddsTheExtension()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, saved);
+        QTemporaryDir directory;
+        application()->newFile(false);
+        QCOMPARE(application()->fileName, QString());
+        // With no file yet, Save asks as Save As does.
+        answerFileDialog(typed.isEmpty() ? QString() : directory.filePath(typed));
+        action(Id::Save)->trigger();
+        QCOMPARE(dialogCaption, QStringLiteral("Save"));
+        const QString expected = saved.isEmpty() ? QString() : directory.filePath(saved);
+        QCOMPARE(application()->fileName, expected);
+        QCOMPARE(QDir(directory.path()).entryList(QDir::Files),
+                 saved.isEmpty() ? QStringList() : QStringList(saved));
+    }
+
+    void loadAsksForScene()
+    {
+        QTemporaryDir directory;
+        const QString scene = directory.filePath(QStringLiteral("kept.scene"));
+        world()->createCircle(0, 3, 0, 1);
+        QVERIFY(application()->save(scene));
+        application()->newFile(false);
+        answerFileDialog(scene);
+        action(Id::Load)->trigger();
+        QCOMPARE(dialogCaption, QStringLiteral("Load"));
+        QCOMPARE(application()->fileName, scene);
+        QCOMPARE(world()->bodyItems().size(), 1);
+        QCOMPARE(window()->windowTitle(), QStringLiteral("Brivane - kept.scene"));
     }
 
     void evaluateScriptAsksForFile()
