@@ -1,7 +1,7 @@
 // Arranges the main window as each layout the program ships and writes the saved states into
 // the ini file that the resources embed as :/text/db.ini. Run it again whenever a dock or a
 // toolbar is added or renamed:
-//   ninja MakePerspectives && tools/MakePerspectives ../resources/text/db.ini
+//   ninja -C build MakePerspectives && build/tools/MakePerspectives resources/text/db.ini
 #include "Application/Application.h"
 #include "Gui/MainWindow.h"
 
