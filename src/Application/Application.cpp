@@ -211,6 +211,10 @@ void Application::grabWidgetUnderCursor()
 
 void Application::newFile(bool createGround)
 {
+    // The progress of a load lets timers run; the scene being read, its reader and its dialog
+    // must outlive them.
+    if (loading)
+        return;
     if (mainWindow)
         mainWindow->deleteUnknownChildren();
     // A script runs inside code that may be a command of the stack, undoing or redoing:
@@ -258,8 +262,8 @@ bool Application::load(QString filename)
         file.remove();
         return false;
     }
-    loading = true;
     newFile(false);
+    loading = true;
     XMLReader reader(&file, mainWindow ? mainWindow->graphicsView() : nullptr);
     QProgressDialog progress(tr("Loading..."), QString(), 0, int(file.size()), mainWindow);
     progress.setWindowModality(Qt::WindowModal);

@@ -4,6 +4,7 @@
 #include "Files/SceneValues.h"
 #include "NemuGeometry/Geometry.h"
 #include "Physics/BalloonItem.h"
+#include "Physics/Box2DLimits.h"
 #include "Physics/DistanceJoint.h"
 #include "Physics/GearItem.h"
 #include "Physics/PhysicsWorld.h"
@@ -102,9 +103,13 @@ PhysicsItem* XMLReader::createPhysicsItem(const QString& elementName,
                                           const QXmlStreamAttributes& attributes)
 {
     PhysicsWorld* world = PhysicsWorld::instance();
-    const double x = number(attributes, "X");
-    const double y = number(attributes, "Y");
-    const double angle = number(attributes, "Angle");
+    double x = number(attributes, "X");
+    double y = number(attributes, "Y");
+    double angle = number(attributes, "Angle");
+    // A body that play carried beyond the world's range is made at the origin rather than
+    // lost; the property push then puts back what of its pose it can.
+    if (!Box2DLimits::isPose(x, y, angle))
+        x = y = angle = 0.0;
     if (elementName == QLatin1String("RectangleItem"))
         return world->createRectangle(x, y, angle, number(attributes, "Width"),
                                       number(attributes, "Height"));
