@@ -15,7 +15,7 @@ const qint64 maximumTexturePixels = 8192LL * 8192LL;
 
 // Sizes of the pieces of a streamed brush at the fixed version.
 const int variantHeaderSize = 4 + 1; // type id, null flag
-const int colorSize = 1 + 5 * 2; // spec, alpha, red, green, blue, padding
+const int colorSize = 1 + 5 * 2; // colour model, alpha, red, green, blue, padding
 
 quint32 bigEndianAt(const QByteArray& bytes, int offset)
 {
