@@ -43,6 +43,10 @@
         <source>Loading...</source>
         <translation>Wird geladen...</translation>
     </message>
+    <message>
+        <source>The script was stopped.</source>
+        <translation>Das Skript wurde angehalten.</translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -85,6 +89,25 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>JSDialog</name>
+    <message>
+        <source>The program contains a syntax error.</source>
+        <translation>Das Programm enthält einen Syntaxfehler.</translation>
+    </message>
+    <message>
+        <source>The program is incomplete.</source>
+        <translation>Das Programm ist unvollständig.</translation>
+    </message>
+    <message>
+        <source>
+
+[Line: %1, Column: %2]</source>
+        <translation>
+
+[Zeile: %1, Spalte: %2]</translation>
     </message>
 </context>
 <context>
@@ -588,6 +611,14 @@
     <message>
         <source>Save</source>
         <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Stop Script</source>
+        <translation>Skript anhalten</translation>
+    </message>
+    <message>
+        <source>Stops the script that is running (Escape)</source>
+        <translation>Hält das laufende Skript an (Escape)</translation>
     </message>
 </context>
 <context>

@@ -43,6 +43,10 @@
         <source>Loading...</source>
         <translation>Φόρτωση...</translation>
     </message>
+    <message>
+        <source>The script was stopped.</source>
+        <translation>Το σενάριο σταμάτησε.</translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -85,6 +89,25 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>JSDialog</name>
+    <message>
+        <source>The program contains a syntax error.</source>
+        <translation>Το πρόγραμμα περιέχει συντακτικό σφάλμα.</translation>
+    </message>
+    <message>
+        <source>The program is incomplete.</source>
+        <translation>Το πρόγραμμα είναι ημιτελές.</translation>
+    </message>
+    <message>
+        <source>
+
+[Line: %1, Column: %2]</source>
+        <translation>
+
+[Γραμμή: %1, Στήλη: %2]</translation>
     </message>
 </context>
 <context>
@@ -588,6 +611,14 @@
     <message>
         <source>Save</source>
         <translation>Αποθήκευση</translation>
+    </message>
+    <message>
+        <source>Stop Script</source>
+        <translation>Διακοπή σεναρίου</translation>
+    </message>
+    <message>
+        <source>Stops the script that is running (Escape)</source>
+        <translation>Σταματά το σενάριο που εκτελείται (Escape)</translation>
     </message>
 </context>
 <context>

@@ -43,6 +43,10 @@
         <source>Loading...</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The script was stopped.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -84,6 +88,23 @@
     </message>
     <message>
         <source>%1 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>JSDialog</name>
+    <message>
+        <source>The program contains a syntax error.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The program is incomplete.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+
+[Line: %1, Column: %2]</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -587,6 +608,14 @@
     </message>
     <message>
         <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop Script</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stops the script that is running (Escape)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

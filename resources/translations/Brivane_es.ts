@@ -43,6 +43,10 @@
         <source>Loading...</source>
         <translation>Cargando...</translation>
     </message>
+    <message>
+        <source>The script was stopped.</source>
+        <translation>El script se detuvo.</translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -85,6 +89,25 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>JSDialog</name>
+    <message>
+        <source>The program contains a syntax error.</source>
+        <translation>El programa contiene un error de sintaxis.</translation>
+    </message>
+    <message>
+        <source>The program is incomplete.</source>
+        <translation>El programa está incompleto.</translation>
+    </message>
+    <message>
+        <source>
+
+[Line: %1, Column: %2]</source>
+        <translation>
+
+[Línea: %1, Columna: %2]</translation>
     </message>
 </context>
 <context>
@@ -588,6 +611,14 @@
     <message>
         <source>Save</source>
         <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Stop Script</source>
+        <translation>Detener script</translation>
+    </message>
+    <message>
+        <source>Stops the script that is running (Escape)</source>
+        <translation>Detiene el script en ejecución (Escape)</translation>
     </message>
 </context>
 <context>

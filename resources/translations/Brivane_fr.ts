@@ -43,6 +43,10 @@
         <source>Loading...</source>
         <translation>Chargement...</translation>
     </message>
+    <message>
+        <source>The script was stopped.</source>
+        <translation>Le script a été arrêté.</translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -85,6 +89,25 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>JSDialog</name>
+    <message>
+        <source>The program contains a syntax error.</source>
+        <translation>Le programme contient une erreur de syntaxe.</translation>
+    </message>
+    <message>
+        <source>The program is incomplete.</source>
+        <translation>Le programme est incomplet.</translation>
+    </message>
+    <message>
+        <source>
+
+[Line: %1, Column: %2]</source>
+        <translation>
+
+[Ligne : %1, Colonne : %2]</translation>
     </message>
 </context>
 <context>
@@ -589,6 +612,14 @@
         <source>Save</source>
         <translation>Enregistrer</translation>
     </message>
+    <message>
+        <source>Stop Script</source>
+        <translation>Arrêter le script</translation>
+    </message>
+    <message>
+        <source>Stops the script that is running (Escape)</source>
+        <translation>Arrête le script en cours d'exécution (Échap)</translation>
+    </message>
 </context>
 <context>
     <name>PlayPauseAction</name>
@@ -741,11 +772,11 @@ hauteur=%2</translation>
     <name>XMLReader</name>
     <message>
         <source>Trying to load a scene which was created with another version of the application. </source>
-        <translation>Chargement d'une scène créée avec une autre version de l'application. </translation>
+        <translation>Chargement d&apos;une scène créée avec une autre version de l&apos;application. </translation>
     </message>
     <message>
         <source>(Scene version: %1 Application version: %2)</source>
-        <translation>(Version de la scène : %1, version de l'application : %2)</translation>
+        <translation>(Version de la scène : %1, version de l&apos;application : %2)</translation>
     </message>
 </context>
 <context>

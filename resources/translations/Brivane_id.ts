@@ -43,6 +43,10 @@
         <source>Loading...</source>
         <translation>Memuat...</translation>
     </message>
+    <message>
+        <source>The script was stopped.</source>
+        <translation>Skrip dihentikan.</translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -85,6 +89,25 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>JSDialog</name>
+    <message>
+        <source>The program contains a syntax error.</source>
+        <translation>Program berisi kesalahan sintaks.</translation>
+    </message>
+    <message>
+        <source>The program is incomplete.</source>
+        <translation>Program belum lengkap.</translation>
+    </message>
+    <message>
+        <source>
+
+[Line: %1, Column: %2]</source>
+        <translation>
+
+[Baris: %1, Kolom: %2]</translation>
     </message>
 </context>
 <context>
@@ -588,6 +611,14 @@
     <message>
         <source>Save</source>
         <translation>Simpan</translation>
+    </message>
+    <message>
+        <source>Stop Script</source>
+        <translation>Hentikan Skrip</translation>
+    </message>
+    <message>
+        <source>Stops the script that is running (Escape)</source>
+        <translation>Menghentikan skrip yang sedang berjalan (Escape)</translation>
     </message>
 </context>
 <context>

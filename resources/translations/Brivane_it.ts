@@ -43,6 +43,10 @@
         <source>Loading...</source>
         <translation>Caricamento...</translation>
     </message>
+    <message>
+        <source>The script was stopped.</source>
+        <translation>Lo script è stato interrotto.</translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -85,6 +89,25 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>JSDialog</name>
+    <message>
+        <source>The program contains a syntax error.</source>
+        <translation>Il programma contiene un errore di sintassi.</translation>
+    </message>
+    <message>
+        <source>The program is incomplete.</source>
+        <translation>Il programma è incompleto.</translation>
+    </message>
+    <message>
+        <source>
+
+[Line: %1, Column: %2]</source>
+        <translation>
+
+[Riga: %1, Colonna: %2]</translation>
     </message>
 </context>
 <context>
@@ -589,6 +612,14 @@
         <source>Save</source>
         <translation>Salva</translation>
     </message>
+    <message>
+        <source>Stop Script</source>
+        <translation>Interrompi script</translation>
+    </message>
+    <message>
+        <source>Stops the script that is running (Escape)</source>
+        <translation>Interrompe lo script in esecuzione (Esc)</translation>
+    </message>
 </context>
 <context>
     <name>PlayPauseAction</name>
@@ -741,11 +772,11 @@ altezza=%2</translation>
     <name>XMLReader</name>
     <message>
         <source>Trying to load a scene which was created with another version of the application. </source>
-        <translation>Caricamento di una scena creata con un'altra versione dell'applicazione. </translation>
+        <translation>Caricamento di una scena creata con un&apos;altra versione dell&apos;applicazione. </translation>
     </message>
     <message>
         <source>(Scene version: %1 Application version: %2)</source>
-        <translation>(Versione della scena: %1, versione dell'applicazione: %2)</translation>
+        <translation>(Versione della scena: %1, versione dell&apos;applicazione: %2)</translation>
     </message>
 </context>
 <context>

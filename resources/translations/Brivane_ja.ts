@@ -43,6 +43,10 @@
         <source>Loading...</source>
         <translation>読み込み中...</translation>
     </message>
+    <message>
+        <source>The script was stopped.</source>
+        <translation>スクリプトを停止しました。</translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -85,6 +89,25 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>JSDialog</name>
+    <message>
+        <source>The program contains a syntax error.</source>
+        <translation>プログラムに構文エラーがあります。</translation>
+    </message>
+    <message>
+        <source>The program is incomplete.</source>
+        <translation>プログラムが不完全です。</translation>
+    </message>
+    <message>
+        <source>
+
+[Line: %1, Column: %2]</source>
+        <translation>
+
+[行: %1, 列: %2]</translation>
     </message>
 </context>
 <context>
@@ -588,6 +611,14 @@
     <message>
         <source>Save</source>
         <translation>保存</translation>
+    </message>
+    <message>
+        <source>Stop Script</source>
+        <translation>スクリプトを停止</translation>
+    </message>
+    <message>
+        <source>Stops the script that is running (Escape)</source>
+        <translation>実行中のスクリプトを停止します (Escape)</translation>
     </message>
 </context>
 <context>

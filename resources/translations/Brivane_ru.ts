@@ -43,6 +43,10 @@
         <source>Loading...</source>
         <translation>Загрузка...</translation>
     </message>
+    <message>
+        <source>The script was stopped.</source>
+        <translation>Скрипт остановлен.</translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -85,6 +89,25 @@
     <message>
         <source>%1 m</source>
         <translation>%1 м</translation>
+    </message>
+</context>
+<context>
+    <name>JSDialog</name>
+    <message>
+        <source>The program contains a syntax error.</source>
+        <translation>В программе синтаксическая ошибка.</translation>
+    </message>
+    <message>
+        <source>The program is incomplete.</source>
+        <translation>Программа не завершена.</translation>
+    </message>
+    <message>
+        <source>
+
+[Line: %1, Column: %2]</source>
+        <translation>
+
+[Строка: %1, Столбец: %2]</translation>
     </message>
 </context>
 <context>
@@ -588,6 +611,14 @@
     <message>
         <source>Save</source>
         <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>Stop Script</source>
+        <translation>Остановить скрипт</translation>
+    </message>
+    <message>
+        <source>Stops the script that is running (Escape)</source>
+        <translation>Останавливает выполняемый скрипт (Escape)</translation>
     </message>
 </context>
 <context>

@@ -43,6 +43,10 @@
         <source>Loading...</source>
         <translation>正在加载...</translation>
     </message>
+    <message>
+        <source>The script was stopped.</source>
+        <translation>脚本已停止。</translation>
+    </message>
 </context>
 <context>
     <name>BalloonAction</name>
@@ -85,6 +89,25 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>JSDialog</name>
+    <message>
+        <source>The program contains a syntax error.</source>
+        <translation>程序包含语法错误。</translation>
+    </message>
+    <message>
+        <source>The program is incomplete.</source>
+        <translation>程序不完整。</translation>
+    </message>
+    <message>
+        <source>
+
+[Line: %1, Column: %2]</source>
+        <translation>
+
+[行: %1, 列: %2]</translation>
     </message>
 </context>
 <context>
@@ -588,6 +611,14 @@
     <message>
         <source>Save</source>
         <translation>保存</translation>
+    </message>
+    <message>
+        <source>Stop Script</source>
+        <translation>停止脚本</translation>
+    </message>
+    <message>
+        <source>Stops the script that is running (Escape)</source>
+        <translation>停止正在运行的脚本 (Escape)</translation>
     </message>
 </context>
 <context>

@@ -18,6 +18,8 @@
 #include "Physics/RectangleItem.h"
 #include "Physics/RevoluteJoint.h"
 #include "Physics/SpringForce.h"
+#include "Scripting/ConsoleWidget.h"
+#include "Scripting/ScriptRunner.h"
 #include "View/GraphicsView.h"
 
 #include <QAction>
@@ -141,6 +143,9 @@ QString Application::temporaryDirectory()
 void Application::initialise()
 {
     mainWindow = new MainWindow();
+    for (const ConsoleMessage& message : qAsConst(earlyMessages))
+        mainWindow->console()->debug(message.text, message.type);
+    earlyMessages.clear();
     Settings* settings = Settings::instance();
     mainWindow->restoreGeometry(settings->mainWindowGeometry);
     mainWindow->restoreState(settings->mainWindowState, 0);
@@ -161,6 +166,11 @@ void Application::initialise()
 
 void Application::postInitialise()
 {
+    // A script typed in the first moments may still run: the new scene waits for it.
+    if (scriptEvaluating()) {
+        QTimer::singleShot(ScriptRunner::processEventsInterval, this, &Application::postInitialise);
+        return;
+    }
     newFile(Settings::instance()->createGroundOnStartup);
 }
 
@@ -192,6 +202,13 @@ QLocale::Language Application::language()
 void Application::debug(QString text, Brivane::ConsoleMessageType messageType)
 {
     logMessage(text, messageType);
+    if (mainWindow) {
+        mainWindow->console()->debug(text, messageType);
+        return;
+    }
+    earlyMessages.append({text, messageType});
+    if (earlyMessages.size() > ConsoleWidget::maximumMessages)
+        earlyMessages.removeFirst();
 }
 
 void Application::debug(QString text)
@@ -320,6 +337,13 @@ void Application::setupScriptEngine()
     scriptEngine = new QScriptEngine(this);
     QScriptValue global = scriptEngine->globalObject();
     scriptFunctionConstructor = global.property(QStringLiteral("Function"));
+    scriptRunner = new ScriptRunner(scriptEngine, this);
+    connect(scriptRunner, &ScriptRunner::scriptStopped, this, &Application::onScriptStopped);
+    if (mainWindow) {
+        QAction* stopAction = mainWindow->action(MainWindow::ActionId::StopScript);
+        scriptRunner->guard(mainWindow, stopAction);
+        connect(scriptRunner, &ScriptRunner::runningChanged, stopAction, &QAction::setEnabled);
+    }
     if (Settings::instance()->attachScriptDebugger)
         attachScriptDebugger();
 
@@ -407,10 +431,33 @@ bool Application::evaluateScript(QString scriptFilename)
     const QString text = QString::fromUtf8(bytes);
     if (!scriptEngine->canEvaluate(text))
         return false;
-    const QScriptValue result = scriptEngine->evaluate(text, scriptFilename, 1);
-    const bool succeeded = !result.isError() && !scriptEngine->hasUncaughtException();
+    const QScriptValue result = scriptRunner->evaluate(text, scriptFilename, 1);
+    // A script that was stopped has no result.
+    const bool succeeded
+        = result.isValid() && !result.isError() && !scriptEngine->hasUncaughtException();
     scriptEngine->clearExceptions();
     return succeeded;
+}
+
+bool Application::scriptEvaluating()
+{
+    const Application* application = instance();
+    return application && application->scriptRunner && application->scriptRunner->isRunning();
+}
+
+void Application::stopScript()
+{
+    if (scriptRunner)
+        scriptRunner->stop();
+}
+
+void Application::onScriptStopped()
+{
+    debug(tr("The script was stopped."), Brivane::Warning);
+    // A running world would run the same event script again at its next step.
+    PhysicsWorld* world = PhysicsWorld::instance();
+    if (world->running())
+        world->stop();
 }
 
 void Application::attachScriptDebugger()

@@ -11,6 +11,7 @@
 
 class MainWindow;
 class QScriptEngineDebugger;
+class ScriptRunner;
 class QTranslator;
 class QUndoStack;
 
@@ -54,6 +55,10 @@ public:
     static constexpr QScriptEngine::QObjectWrapOptions scriptWrapOptions
         = QScriptEngine::ExcludeDeleteLater;
 
+    // Whether the program's script engine is in the middle of a script: then events are
+    // processed only from inside it.
+    static bool scriptEvaluating();
+
     // Whether an OpenGL context can be made here at all.
     static bool canCreateOpenGLContext();
     // OpenGL versions the system supports, in ascending order ("1.1" ... "3.0").
@@ -65,11 +70,22 @@ public:
     // The engine's own Function constructor, taken before any script could replace it.
     QScriptValue scriptFunctionConstructor;
     QScriptEngineDebugger* scriptDebugger = nullptr;
+    ScriptRunner* scriptRunner = nullptr;
     QUndoStack* undoStack = nullptr;
     QString fileName;
     bool loading = false;
     QTranslator* translator = nullptr;
     QHash<QLocale::Language, QTranslator*> translators;
+
+private:
+    struct ConsoleMessage
+    {
+        QString text;
+        Brivane::ConsoleMessageType type;
+    };
+    // What was reported before the console existed, shown there once it does; as many as
+    // the console keeps.
+    QList<ConsoleMessage> earlyMessages;
 
 signals:
     void fileCreated();
@@ -94,8 +110,13 @@ public slots:
     void globalScriptingProperties();
     void showSupportedOpenGLVersions();
     bool isOpenGLVersionSupported(QString version);
+    // Aborts the script under way, if any.
+    void stopScript();
 
 protected slots:
     void postInitialise();
     void onAboutToQuit();
+
+private slots:
+    void onScriptStopped();
 };

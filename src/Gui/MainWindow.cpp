@@ -5,6 +5,7 @@
 #include "Files/SceneFile.h"
 #include "Physics/PhysicsItem.h"
 #include "Physics/PhysicsWorld.h"
+#include "Scripting/ConsoleWidget.h"
 #include "Tools/ActionContextToolBar.h"
 #include "Tools/BalloonAction.h"
 #include "Tools/CircleAction.h"
@@ -147,6 +148,10 @@ MainWindow::actionRows()
          &MainWindow::makeRedo, nullptr},
         {Id::SelectAll, QT_TR_NOOP("Select All"), QT_TR_NOOP("Selects all items of the scene"),
          "selectAll", Key::SelectAll, 0, &MainWindow::makeCommand, &MainWindow::onSelectAll},
+        // Escape stops a script as well; as the action's key it would take Escape from the tools.
+        {Id::StopScript, QT_TR_NOOP("Stop Script"),
+         QT_TR_NOOP("Stops the script that is running (Escape)"), "stopScript", none, 0,
+         &MainWindow::makeCommand, &MainWindow::onStopScript},
         {Id::ZoomIn, QT_TR_NOOP("Zoom In"), QT_TR_NOOP("Zooms in"), "zoomIn", Key::ZoomIn, 0,
          &MainWindow::makeCommand, &MainWindow::onZoomIn},
         {Id::ZoomOut, QT_TR_NOOP("Zoom Out"), QT_TR_NOOP("Zooms out"), "zoomOut", Key::ZoomOut, 0,
@@ -276,8 +281,12 @@ const QVector<MainWindow::DockRow>& MainWindow::dockRows()
          [](MainWindow*) { return placeholderPanel("SettingsWidget"); }, sides,
          Qt::LeftDockWidgetArea, Qt::ALT | Qt::Key_S, DockRow::HiddenFloating},
         {"ConsoleDockWidget", QT_TR_NOOP("Console"),
-         [](MainWindow*) { return placeholderPanel("ConsoleWidget"); }, Qt::AllDockWidgetAreas,
-         Qt::BottomDockWidgetArea, Qt::Key_AsciiTilde, DockRow::Hidden},
+         [](MainWindow* window) -> QWidget* {
+             window->consoleWidget = new ConsoleWidget();
+             window->consoleWidget->setStopAction(window->action(ActionId::StopScript));
+             return window->consoleWidget;
+         },
+         Qt::AllDockWidgetAreas, Qt::BottomDockWidgetArea, Qt::Key_AsciiTilde, DockRow::Hidden},
         {"ScenePropertiesDockWidget", QT_TR_NOOP("Scene Properties"),
          [](MainWindow*) { return placeholderPanel("ScenePropertiesWidget"); }, sides,
          Qt::LeftDockWidgetArea, Qt::SHIFT | Qt::Key_S, DockRow::Hidden},
@@ -350,6 +359,8 @@ void MainWindow::createActions()
         actions[std::size_t(row.id)] = created;
     }
     action(ActionId::Select)->setChecked(true);
+    // Enabled while a script runs long enough to be stopped.
+    action(ActionId::StopScript)->setEnabled(false);
     view->currentAction = qobject_cast<GraphicsViewAction*>(action(ActionId::Select));
     createPerspectiveActions();
 }
@@ -480,7 +491,7 @@ void MainWindow::fillMenus()
                   {Id::New, Id::Separator, Id::Save, Id::SaveAs, Id::Load, Id::Separator,
                    Id::Upload, Id::Download, Id::Separator, Id::Export, Id::Separator,
                    Id::EvaluateScript, Id::Separator, Id::Quit});
-    addActionList(editMenu, {Id::Undo, Id::Redo, Id::SelectAll});
+    addActionList(editMenu, {Id::Undo, Id::Redo, Id::SelectAll, Id::Separator, Id::StopScript});
     addActionList(zoomMenu, {Id::ZoomIn, Id::ZoomOut, Id::ZoomExtents});
     QList<QAction*> toolBarToggles;
     for (QToolBar* bar : qAsConst(toolBars))
@@ -693,6 +704,11 @@ void MainWindow::onQuit()
 void MainWindow::onSelectAll()
 {
     PhysicsWorld::instance()->selectAll();
+}
+
+void MainWindow::onStopScript()
+{
+    Application::instance()->stopScript();
 }
 
 void MainWindow::onZoomIn()

@@ -7,6 +7,7 @@
 #include <array>
 
 class ActionContextToolBar;
+class ConsoleWidget;
 class GraphicsView;
 class GraphicsViewAction;
 class PhysicsItem;
@@ -41,6 +42,7 @@ public:
         Undo,
         Redo,
         SelectAll,
+        StopScript,
         ZoomIn,
         ZoomOut,
         ZoomExtents,
@@ -87,6 +89,7 @@ public:
     explicit MainWindow(QWidget* parent = nullptr);
 
     GraphicsView* graphicsView() const { return view; }
+    ConsoleWidget* console() const { return consoleWidget; }
     QAction* action(ActionId id) const { return actions[std::size_t(id)]; }
     // The stored layouts of the View menu, in the order of their shortcuts.
     const QList<QAction*>& perspectives() const { return perspectiveActions; }
@@ -119,6 +122,7 @@ private slots:
     void onEvaluateScript();
     void onQuit();
     void onSelectAll();
+    void onStopScript();
     void onZoomIn();
     void onZoomOut();
     void onZoomExtents();
@@ -186,5 +190,6 @@ private:
     ActionContextToolBar* contextToolBar = nullptr;
     StatusBar* statusLine = nullptr;
     QWidget* propertyEditor = nullptr;
+    ConsoleWidget* consoleWidget = nullptr;
     QObjectList trackedChildren;
 };

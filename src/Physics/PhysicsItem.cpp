@@ -5,6 +5,7 @@
 #include "Physics/ForceItem.h"
 #include "Physics/JointItem.h"
 #include "Physics/PhysicsWorld.h"
+#include "Scripting/ScriptRunner.h"
 
 #include <QAbstractGraphicsShapeItem>
 #include <QKeyEvent>
@@ -194,7 +195,7 @@ void PhysicsItem::runEventScript(const QString& field, const char* functionName,
         = itemValue.property(QLatin1String(functionName), QScriptValue::ResolvePrototype);
     PhysicsWorld::ScriptGuard guard;
     runningScripts.append(&field);
-    function.call(itemValue, arguments);
+    Application::instance()->scriptRunner->call(function, itemValue, arguments);
     runningScripts.removeOne(&field);
     // An error of the script is dropped, so that it does not escape into a script that only
     // set a property or started the world; the step, or that script, goes on.

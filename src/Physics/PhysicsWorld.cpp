@@ -17,6 +17,7 @@
 #include "Physics/RectangleItem.h"
 #include "Physics/RevoluteJoint.h"
 #include "Physics/SpringForce.h"
+#include "Scripting/ScriptRunner.h"
 #include "View/GraphicsScene.h"
 #include "View/GraphicsView.h"
 
@@ -82,7 +83,11 @@ PhysicsWorld::PhysicsWorld()
     listener = new ContactListener();
     world->SetContactListener(listener);
     scene = new GraphicsScene(this);
-    connect(&timer, &QTimer::timeout, this, &PhysicsWorld::step);
+    connect(&timer, &QTimer::timeout, this, [this] {
+        // A long script lets timers run inside it; the step waits until it has returned.
+        if (!Application::scriptEvaluating())
+            step();
+    });
 }
 
 PhysicsWorld::~PhysicsWorld()
@@ -759,14 +764,18 @@ void PhysicsWorld::deleteRemovedItems()
     qDeleteAll(doomed);
 }
 
-void PhysicsWorld::scheduleDeletion()
+void PhysicsWorld::scheduleDeletion(int delayMilliseconds)
 {
     if (removedItems.isEmpty() || deletionScheduled)
         return;
     deletionScheduled = true;
-    QTimer::singleShot(0, this, [this] {
+    QTimer::singleShot(delayMilliseconds, this, [this] {
         deletionScheduled = false;
-        deleteRemovedItems();
+        // A long script lets timers run inside it, and the code below it may hold any item.
+        if (Application::scriptEvaluating())
+            scheduleDeletion(ScriptRunner::processEventsInterval);
+        else
+            deleteRemovedItems();
     });
 }
 

@@ -215,7 +215,7 @@ private:
     bool setGravity(double x, double y);
     // Deletes the removed items unless a loop or a script still runs.
     void deleteRemovedItems();
-    void scheduleDeletion();
+    void scheduleDeletion(int delayMilliseconds = 0);
     // Whether a body item may hang a joint on these bodies: the first of this world, the
     // second of this world or none, and not the first.
     bool areJointBodies(BodyItem* first, BodyItem* second) const;

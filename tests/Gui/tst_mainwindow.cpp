@@ -160,6 +160,8 @@ private slots:
         row(Id::Redo, "Redo", "Redo", "redo", Key::Redo, false);
         row(Id::SelectAll, "Select All", "Selects all items of the scene", "selectAll",
             Key::SelectAll, true);
+        row(Id::StopScript, "Stop Script", "Stops the script that is running (Escape)",
+            "stopScript", Key(), false);
         row(Id::ZoomIn, "Zoom In", "Zooms in", "zoomIn", Key::ZoomIn, true);
         row(Id::ZoomOut, "Zoom Out", "Zooms out", "zoomOut", Key::ZoomOut, true);
         row(Id::ZoomExtents, "Zoom Extents", "Zooms in or out to fit the extents of the scene", "",
@@ -404,7 +406,7 @@ private slots:
                               "-", "Upload Scene...", "Download Scenes...", "-", "Export...", "-",
                               "Evaluate Script...", "-", "Quit"}));
         QCOMPARE(entries(bar.at(1)->menu()->actions()),
-                 QStringList({"Undo", "Redo", "Select All"}));
+                 QStringList({"Undo", "Redo", "Select All", "-", "Stop Script"}));
         const QList<QAction*> viewEntries = bar.at(2)->menu()->actions();
         QCOMPARE(entries(viewEntries),
                  QStringList({"<Zoom>", "<Toolbars>", "<Dock Widgets>", "<Perspectives>", "-",
