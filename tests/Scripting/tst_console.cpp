@@ -7,6 +7,7 @@
 #include "Scripting/ScriptRunner.h"
 #include "View/GraphicsView.h"
 #include "ViewGestures.h"
+#include "WindowTestMain.h"
 
 #include <QAction>
 #include <QFile>
@@ -252,21 +253,7 @@ private slots:
     }
 };
 
-// The console keeps what was reported before the window existed, so this test starts the
-// program by hand with a message before initialise().
-int main(int argc, char* argv[])
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QString ini = QFileInfo(QString::fromLocal8Bit(argv[0])).absolutePath()
-        + QStringLiteral("/Brivane.ini");
-    QFile::remove(ini);
-    Application app(argc, argv);
-    app.debug(earlyMessage);
-    app.initialise();
-    TestConsole test;
-    const int result = QTest::qExec(&test, argc, argv);
-    QFile::remove(ini);
-    return result;
-}
+// The console keeps what was reported before the window existed.
+BRIVANE_WINDOW_TEST_MAIN_WITH(TestConsole, true, [](Application& app) { app.debug(earlyMessage); })
 
 #include "tst_console.moc"

@@ -8,8 +8,8 @@
 
 // A main() for tests of the whole program as main() starts it, window included, with no
 // settings file before or after, so that the first scene has its ground. `offscreen` false
-// needs a real display.
-#define BRIVANE_WINDOW_TEST_MAIN(TestClass, offscreen)                                             \
+// needs a real display. `beforeInitialise` gets the application before its window exists.
+#define BRIVANE_WINDOW_TEST_MAIN_WITH(TestClass, offscreen, beforeInitialise)                      \
     int main(int argc, char* argv[])                                                               \
     {                                                                                              \
         if (offscreen)                                                                             \
@@ -18,9 +18,13 @@
             + QStringLiteral("/Brivane.ini");                                                      \
         QFile::remove(ini);                                                                        \
         Application application(argc, argv);                                                       \
+        beforeInitialise(application);                                                             \
         application.initialise();                                                                  \
         TestClass test;                                                                            \
         const int result = QTest::qExec(&test, argc, argv);                                        \
         QFile::remove(ini);                                                                        \
         return result;                                                                             \
     }
+
+#define BRIVANE_WINDOW_TEST_MAIN(TestClass, offscreen)                                             \
+    BRIVANE_WINDOW_TEST_MAIN_WITH(TestClass, offscreen, [](Application&) {})
