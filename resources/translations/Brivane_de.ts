@@ -56,6 +56,121 @@
     </message>
 </context>
 <context>
+    <name>BrushDialog</name>
+    <message>
+        <source>Select Brush</source>
+        <translation>Pinsel wählen</translation>
+    </message>
+    <message>
+        <source>Color/Pattern</source>
+        <translation>Farbe/Muster</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Wählen...</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Muster</translation>
+    </message>
+    <message>
+        <source>No Brush</source>
+        <translation>Kein Pinsel</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>Voll</translation>
+    </message>
+    <message>
+        <source>Dense1</source>
+        <translation>Dicht 1</translation>
+    </message>
+    <message>
+        <source>Dense2</source>
+        <translation>Dicht 2</translation>
+    </message>
+    <message>
+        <source>Dense3</source>
+        <translation>Dicht 3</translation>
+    </message>
+    <message>
+        <source>Dense4</source>
+        <translation>Dicht 4</translation>
+    </message>
+    <message>
+        <source>Dense5</source>
+        <translation>Dicht 5</translation>
+    </message>
+    <message>
+        <source>Dense6</source>
+        <translation>Dicht 6</translation>
+    </message>
+    <message>
+        <source>Dense7</source>
+        <translation>Dicht 7</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Waagerecht</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Senkrecht</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>Kreuz</translation>
+    </message>
+    <message>
+        <source>Backward diagonal</source>
+        <translation>Diagonal rückwärts</translation>
+    </message>
+    <message>
+        <source>Forward diagonal</source>
+        <translation>Diagonal vorwärts</translation>
+    </message>
+    <message>
+        <source>Crossing diagonal</source>
+        <translation>Diagonal gekreuzt</translation>
+    </message>
+    <message>
+        <source>Texture</source>
+        <translation>Textur</translation>
+    </message>
+    <message>
+        <source>Auto Adjust</source>
+        <translation>Automatisch anpassen</translation>
+    </message>
+    <message>
+        <source>Horizontal scale</source>
+        <translation>Horizontale Skalierung</translation>
+    </message>
+    <message>
+        <source>Vertical scale</source>
+        <translation>Vertikale Skalierung</translation>
+    </message>
+    <message>
+        <source>Horizontal offset</source>
+        <translation>Horizontaler Versatz</translation>
+    </message>
+    <message>
+        <source>Vertical offset</source>
+        <translation>Vertikaler Versatz</translation>
+    </message>
+    <message>
+        <source>Select Texture</source>
+        <translation>Textur wählen</translation>
+    </message>
+    <message>
+        <source>Image Files (*.png *.jpg *.bmp *.gif)</source>
+        <translation>Bilddateien (*.png *.jpg *.bmp *.gif)</translation>
+    </message>
+</context>
+<context>
     <name>CircleAction</name>
     <message>
         <source>Create Circle</source>
@@ -647,6 +762,47 @@
     <message>
         <source>Create Prismatic Joint</source>
         <translation>Schubgelenk erstellen</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyDelegate</name>
+    <message>
+        <source>Select Color</source>
+        <translation>Farbe wählen</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyEditorWidget</name>
+    <message>
+        <source>&lt;div align=&apos;right&apos;&gt;&lt;i&gt;&lt;font size=&apos;10px&apos;&gt;(Edit properties with double-click)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</source>
+        <translation>&lt;div align='right'&gt;&lt;i&gt;&lt;font size='10px'&gt;(Eigenschaften per Doppelklick bearbeiten)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</translation>
+    </message>
+    <message>
+        <source>Brush</source>
+        <translation>Pinsel</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Wählen</translation>
+    </message>
+    <message>
+        <source>Specify the filter categories that %1 belongs to.</source>
+        <translation>Wählen Sie die Filterkategorien, zu denen %1 gehört.</translation>
+    </message>
+    <message>
+        <source>Specify the filter categories that %1 collides with.</source>
+        <translation>Wählen Sie die Filterkategorien, mit denen %1 zusammenstößt.</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyModel</name>
+    <message>
+        <source>Property</source>
+        <translation>Eigenschaft</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
     </message>
 </context>
 <context>

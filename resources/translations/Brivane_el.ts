@@ -56,6 +56,121 @@
     </message>
 </context>
 <context>
+    <name>BrushDialog</name>
+    <message>
+        <source>Select Brush</source>
+        <translation>Επιλογή πινέλου</translation>
+    </message>
+    <message>
+        <source>Color/Pattern</source>
+        <translation>Χρώμα/Μοτίβο</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Χρώμα</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Επιλογή...</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Μοτίβο</translation>
+    </message>
+    <message>
+        <source>No Brush</source>
+        <translation>Χωρίς πινέλο</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>Συμπαγές</translation>
+    </message>
+    <message>
+        <source>Dense1</source>
+        <translation>Πυκνό 1</translation>
+    </message>
+    <message>
+        <source>Dense2</source>
+        <translation>Πυκνό 2</translation>
+    </message>
+    <message>
+        <source>Dense3</source>
+        <translation>Πυκνό 3</translation>
+    </message>
+    <message>
+        <source>Dense4</source>
+        <translation>Πυκνό 4</translation>
+    </message>
+    <message>
+        <source>Dense5</source>
+        <translation>Πυκνό 5</translation>
+    </message>
+    <message>
+        <source>Dense6</source>
+        <translation>Πυκνό 6</translation>
+    </message>
+    <message>
+        <source>Dense7</source>
+        <translation>Πυκνό 7</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Οριζόντιο</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Κατακόρυφο</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>Σταυρός</translation>
+    </message>
+    <message>
+        <source>Backward diagonal</source>
+        <translation>Διαγώνια προς τα πίσω</translation>
+    </message>
+    <message>
+        <source>Forward diagonal</source>
+        <translation>Διαγώνια προς τα εμπρός</translation>
+    </message>
+    <message>
+        <source>Crossing diagonal</source>
+        <translation>Διασταυρούμενες διαγώνιες</translation>
+    </message>
+    <message>
+        <source>Texture</source>
+        <translation>Υφή</translation>
+    </message>
+    <message>
+        <source>Auto Adjust</source>
+        <translation>Αυτόματη προσαρμογή</translation>
+    </message>
+    <message>
+        <source>Horizontal scale</source>
+        <translation>Οριζόντια κλίμακα</translation>
+    </message>
+    <message>
+        <source>Vertical scale</source>
+        <translation>Κατακόρυφη κλίμακα</translation>
+    </message>
+    <message>
+        <source>Horizontal offset</source>
+        <translation>Οριζόντια μετατόπιση</translation>
+    </message>
+    <message>
+        <source>Vertical offset</source>
+        <translation>Κατακόρυφη μετατόπιση</translation>
+    </message>
+    <message>
+        <source>Select Texture</source>
+        <translation>Επιλογή υφής</translation>
+    </message>
+    <message>
+        <source>Image Files (*.png *.jpg *.bmp *.gif)</source>
+        <translation>Αρχεία εικόνας (*.png *.jpg *.bmp *.gif)</translation>
+    </message>
+</context>
+<context>
     <name>CircleAction</name>
     <message>
         <source>Create Circle</source>
@@ -647,6 +762,47 @@
     <message>
         <source>Create Prismatic Joint</source>
         <translation>Δημιουργία πρισματικής άρθρωσης</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyDelegate</name>
+    <message>
+        <source>Select Color</source>
+        <translation>Επιλογή χρώματος</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyEditorWidget</name>
+    <message>
+        <source>&lt;div align=&apos;right&apos;&gt;&lt;i&gt;&lt;font size=&apos;10px&apos;&gt;(Edit properties with double-click)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</source>
+        <translation>&lt;div align='right'&gt;&lt;i&gt;&lt;font size='10px'&gt;(Επεξεργασία ιδιοτήτων με διπλό κλικ)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</translation>
+    </message>
+    <message>
+        <source>Brush</source>
+        <translation>Πινέλο</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Επιλογή</translation>
+    </message>
+    <message>
+        <source>Specify the filter categories that %1 belongs to.</source>
+        <translation>Ορίστε τις κατηγορίες φίλτρου στις οποίες ανήκει το %1.</translation>
+    </message>
+    <message>
+        <source>Specify the filter categories that %1 collides with.</source>
+        <translation>Ορίστε τις κατηγορίες φίλτρου με τις οποίες συγκρούεται το %1.</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyModel</name>
+    <message>
+        <source>Property</source>
+        <translation>Ιδιότητα</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Τιμή</translation>
     </message>
 </context>
 <context>

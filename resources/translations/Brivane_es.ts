@@ -56,6 +56,121 @@
     </message>
 </context>
 <context>
+    <name>BrushDialog</name>
+    <message>
+        <source>Select Brush</source>
+        <translation>Seleccionar pincel</translation>
+    </message>
+    <message>
+        <source>Color/Pattern</source>
+        <translation>Color/Patrón</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Seleccionar...</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Patrón</translation>
+    </message>
+    <message>
+        <source>No Brush</source>
+        <translation>Sin pincel</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>Sólido</translation>
+    </message>
+    <message>
+        <source>Dense1</source>
+        <translation>Denso 1</translation>
+    </message>
+    <message>
+        <source>Dense2</source>
+        <translation>Denso 2</translation>
+    </message>
+    <message>
+        <source>Dense3</source>
+        <translation>Denso 3</translation>
+    </message>
+    <message>
+        <source>Dense4</source>
+        <translation>Denso 4</translation>
+    </message>
+    <message>
+        <source>Dense5</source>
+        <translation>Denso 5</translation>
+    </message>
+    <message>
+        <source>Dense6</source>
+        <translation>Denso 6</translation>
+    </message>
+    <message>
+        <source>Dense7</source>
+        <translation>Denso 7</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>Cruz</translation>
+    </message>
+    <message>
+        <source>Backward diagonal</source>
+        <translation>Diagonal inversa</translation>
+    </message>
+    <message>
+        <source>Forward diagonal</source>
+        <translation>Diagonal directa</translation>
+    </message>
+    <message>
+        <source>Crossing diagonal</source>
+        <translation>Diagonal cruzada</translation>
+    </message>
+    <message>
+        <source>Texture</source>
+        <translation>Textura</translation>
+    </message>
+    <message>
+        <source>Auto Adjust</source>
+        <translation>Ajuste automático</translation>
+    </message>
+    <message>
+        <source>Horizontal scale</source>
+        <translation>Escala horizontal</translation>
+    </message>
+    <message>
+        <source>Vertical scale</source>
+        <translation>Escala vertical</translation>
+    </message>
+    <message>
+        <source>Horizontal offset</source>
+        <translation>Desplazamiento horizontal</translation>
+    </message>
+    <message>
+        <source>Vertical offset</source>
+        <translation>Desplazamiento vertical</translation>
+    </message>
+    <message>
+        <source>Select Texture</source>
+        <translation>Seleccionar textura</translation>
+    </message>
+    <message>
+        <source>Image Files (*.png *.jpg *.bmp *.gif)</source>
+        <translation>Archivos de imagen (*.png *.jpg *.bmp *.gif)</translation>
+    </message>
+</context>
+<context>
     <name>CircleAction</name>
     <message>
         <source>Create Circle</source>
@@ -647,6 +762,47 @@
     <message>
         <source>Create Prismatic Joint</source>
         <translation>Crear articulación prismática</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyDelegate</name>
+    <message>
+        <source>Select Color</source>
+        <translation>Seleccionar color</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyEditorWidget</name>
+    <message>
+        <source>&lt;div align=&apos;right&apos;&gt;&lt;i&gt;&lt;font size=&apos;10px&apos;&gt;(Edit properties with double-click)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</source>
+        <translation>&lt;div align='right'&gt;&lt;i&gt;&lt;font size='10px'&gt;(Edite las propiedades con doble clic)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</translation>
+    </message>
+    <message>
+        <source>Brush</source>
+        <translation>Pincel</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Seleccionar</translation>
+    </message>
+    <message>
+        <source>Specify the filter categories that %1 belongs to.</source>
+        <translation>Indique las categorías de filtro a las que pertenece %1.</translation>
+    </message>
+    <message>
+        <source>Specify the filter categories that %1 collides with.</source>
+        <translation>Indique las categorías de filtro con las que choca %1.</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyModel</name>
+    <message>
+        <source>Property</source>
+        <translation>Propiedad</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
     </message>
 </context>
 <context>

@@ -56,6 +56,121 @@
     </message>
 </context>
 <context>
+    <name>BrushDialog</name>
+    <message>
+        <source>Select Brush</source>
+        <translation>Choisir le pinceau</translation>
+    </message>
+    <message>
+        <source>Color/Pattern</source>
+        <translation>Couleur/Motif</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Choisir...</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Motif</translation>
+    </message>
+    <message>
+        <source>No Brush</source>
+        <translation>Aucun pinceau</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>Plein</translation>
+    </message>
+    <message>
+        <source>Dense1</source>
+        <translation>Dense 1</translation>
+    </message>
+    <message>
+        <source>Dense2</source>
+        <translation>Dense 2</translation>
+    </message>
+    <message>
+        <source>Dense3</source>
+        <translation>Dense 3</translation>
+    </message>
+    <message>
+        <source>Dense4</source>
+        <translation>Dense 4</translation>
+    </message>
+    <message>
+        <source>Dense5</source>
+        <translation>Dense 5</translation>
+    </message>
+    <message>
+        <source>Dense6</source>
+        <translation>Dense 6</translation>
+    </message>
+    <message>
+        <source>Dense7</source>
+        <translation>Dense 7</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>Croix</translation>
+    </message>
+    <message>
+        <source>Backward diagonal</source>
+        <translation>Diagonale arrière</translation>
+    </message>
+    <message>
+        <source>Forward diagonal</source>
+        <translation>Diagonale avant</translation>
+    </message>
+    <message>
+        <source>Crossing diagonal</source>
+        <translation>Diagonales croisées</translation>
+    </message>
+    <message>
+        <source>Texture</source>
+        <translation>Texture</translation>
+    </message>
+    <message>
+        <source>Auto Adjust</source>
+        <translation>Ajustement automatique</translation>
+    </message>
+    <message>
+        <source>Horizontal scale</source>
+        <translation>Échelle horizontale</translation>
+    </message>
+    <message>
+        <source>Vertical scale</source>
+        <translation>Échelle verticale</translation>
+    </message>
+    <message>
+        <source>Horizontal offset</source>
+        <translation>Décalage horizontal</translation>
+    </message>
+    <message>
+        <source>Vertical offset</source>
+        <translation>Décalage vertical</translation>
+    </message>
+    <message>
+        <source>Select Texture</source>
+        <translation>Choisir la texture</translation>
+    </message>
+    <message>
+        <source>Image Files (*.png *.jpg *.bmp *.gif)</source>
+        <translation>Fichiers image (*.png *.jpg *.bmp *.gif)</translation>
+    </message>
+</context>
+<context>
     <name>CircleAction</name>
     <message>
         <source>Create Circle</source>
@@ -618,7 +733,7 @@
     </message>
     <message>
         <source>Stops the script that is running (Escape)</source>
-        <translation>Arrête le script en cours d'exécution (Échap)</translation>
+        <translation>Arrête le script en cours d&apos;exécution (Échap)</translation>
     </message>
 </context>
 <context>
@@ -647,6 +762,47 @@
     <message>
         <source>Create Prismatic Joint</source>
         <translation>Créer une liaison glissière</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyDelegate</name>
+    <message>
+        <source>Select Color</source>
+        <translation>Choisir la couleur</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyEditorWidget</name>
+    <message>
+        <source>&lt;div align=&apos;right&apos;&gt;&lt;i&gt;&lt;font size=&apos;10px&apos;&gt;(Edit properties with double-click)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</source>
+        <translation>&lt;div align='right'&gt;&lt;i&gt;&lt;font size='10px'&gt;(Modifier les propriétés par double-clic)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</translation>
+    </message>
+    <message>
+        <source>Brush</source>
+        <translation>Pinceau</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Choisir</translation>
+    </message>
+    <message>
+        <source>Specify the filter categories that %1 belongs to.</source>
+        <translation>Indiquez les catégories de filtre auxquelles %1 appartient.</translation>
+    </message>
+    <message>
+        <source>Specify the filter categories that %1 collides with.</source>
+        <translation>Indiquez les catégories de filtre avec lesquelles %1 entre en collision.</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyModel</name>
+    <message>
+        <source>Property</source>
+        <translation>Propriété</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
     </message>
 </context>
 <context>

@@ -56,6 +56,121 @@
     </message>
 </context>
 <context>
+    <name>BrushDialog</name>
+    <message>
+        <source>Select Brush</source>
+        <translation>Pilih Kuas</translation>
+    </message>
+    <message>
+        <source>Color/Pattern</source>
+        <translation>Warna/Pola</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Warna</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Pilih...</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Pola</translation>
+    </message>
+    <message>
+        <source>No Brush</source>
+        <translation>Tanpa kuas</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>Padat</translation>
+    </message>
+    <message>
+        <source>Dense1</source>
+        <translation>Rapat 1</translation>
+    </message>
+    <message>
+        <source>Dense2</source>
+        <translation>Rapat 2</translation>
+    </message>
+    <message>
+        <source>Dense3</source>
+        <translation>Rapat 3</translation>
+    </message>
+    <message>
+        <source>Dense4</source>
+        <translation>Rapat 4</translation>
+    </message>
+    <message>
+        <source>Dense5</source>
+        <translation>Rapat 5</translation>
+    </message>
+    <message>
+        <source>Dense6</source>
+        <translation>Rapat 6</translation>
+    </message>
+    <message>
+        <source>Dense7</source>
+        <translation>Rapat 7</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Vertikal</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>Silang</translation>
+    </message>
+    <message>
+        <source>Backward diagonal</source>
+        <translation>Diagonal mundur</translation>
+    </message>
+    <message>
+        <source>Forward diagonal</source>
+        <translation>Diagonal maju</translation>
+    </message>
+    <message>
+        <source>Crossing diagonal</source>
+        <translation>Diagonal bersilang</translation>
+    </message>
+    <message>
+        <source>Texture</source>
+        <translation>Tekstur</translation>
+    </message>
+    <message>
+        <source>Auto Adjust</source>
+        <translation>Sesuaikan Otomatis</translation>
+    </message>
+    <message>
+        <source>Horizontal scale</source>
+        <translation>Skala horizontal</translation>
+    </message>
+    <message>
+        <source>Vertical scale</source>
+        <translation>Skala vertikal</translation>
+    </message>
+    <message>
+        <source>Horizontal offset</source>
+        <translation>Geser horizontal</translation>
+    </message>
+    <message>
+        <source>Vertical offset</source>
+        <translation>Geser vertikal</translation>
+    </message>
+    <message>
+        <source>Select Texture</source>
+        <translation>Pilih Tekstur</translation>
+    </message>
+    <message>
+        <source>Image Files (*.png *.jpg *.bmp *.gif)</source>
+        <translation>Berkas gambar (*.png *.jpg *.bmp *.gif)</translation>
+    </message>
+</context>
+<context>
     <name>CircleAction</name>
     <message>
         <source>Create Circle</source>
@@ -647,6 +762,47 @@
     <message>
         <source>Create Prismatic Joint</source>
         <translation>Buat Sambungan Prismatik</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyDelegate</name>
+    <message>
+        <source>Select Color</source>
+        <translation>Pilih Warna</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyEditorWidget</name>
+    <message>
+        <source>&lt;div align=&apos;right&apos;&gt;&lt;i&gt;&lt;font size=&apos;10px&apos;&gt;(Edit properties with double-click)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</source>
+        <translation>&lt;div align='right'&gt;&lt;i&gt;&lt;font size='10px'&gt;(Ubah properti dengan klik ganda)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</translation>
+    </message>
+    <message>
+        <source>Brush</source>
+        <translation>Kuas</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Pilih</translation>
+    </message>
+    <message>
+        <source>Specify the filter categories that %1 belongs to.</source>
+        <translation>Tentukan kategori filter tempat %1 berada.</translation>
+    </message>
+    <message>
+        <source>Specify the filter categories that %1 collides with.</source>
+        <translation>Tentukan kategori filter yang bertabrakan dengan %1.</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyModel</name>
+    <message>
+        <source>Property</source>
+        <translation>Properti</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Nilai</translation>
     </message>
 </context>
 <context>

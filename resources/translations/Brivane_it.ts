@@ -56,6 +56,121 @@
     </message>
 </context>
 <context>
+    <name>BrushDialog</name>
+    <message>
+        <source>Select Brush</source>
+        <translation>Scegli pennello</translation>
+    </message>
+    <message>
+        <source>Color/Pattern</source>
+        <translation>Colore/Motivo</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Colore</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Scegli...</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <source>No Brush</source>
+        <translation>Nessun pennello</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>Pieno</translation>
+    </message>
+    <message>
+        <source>Dense1</source>
+        <translation>Denso 1</translation>
+    </message>
+    <message>
+        <source>Dense2</source>
+        <translation>Denso 2</translation>
+    </message>
+    <message>
+        <source>Dense3</source>
+        <translation>Denso 3</translation>
+    </message>
+    <message>
+        <source>Dense4</source>
+        <translation>Denso 4</translation>
+    </message>
+    <message>
+        <source>Dense5</source>
+        <translation>Denso 5</translation>
+    </message>
+    <message>
+        <source>Dense6</source>
+        <translation>Denso 6</translation>
+    </message>
+    <message>
+        <source>Dense7</source>
+        <translation>Denso 7</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Orizzontale</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Verticale</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>Croce</translation>
+    </message>
+    <message>
+        <source>Backward diagonal</source>
+        <translation>Diagonale all'indietro</translation>
+    </message>
+    <message>
+        <source>Forward diagonal</source>
+        <translation>Diagonale in avanti</translation>
+    </message>
+    <message>
+        <source>Crossing diagonal</source>
+        <translation>Diagonali incrociate</translation>
+    </message>
+    <message>
+        <source>Texture</source>
+        <translation>Texture</translation>
+    </message>
+    <message>
+        <source>Auto Adjust</source>
+        <translation>Adattamento automatico</translation>
+    </message>
+    <message>
+        <source>Horizontal scale</source>
+        <translation>Scala orizzontale</translation>
+    </message>
+    <message>
+        <source>Vertical scale</source>
+        <translation>Scala verticale</translation>
+    </message>
+    <message>
+        <source>Horizontal offset</source>
+        <translation>Spostamento orizzontale</translation>
+    </message>
+    <message>
+        <source>Vertical offset</source>
+        <translation>Spostamento verticale</translation>
+    </message>
+    <message>
+        <source>Select Texture</source>
+        <translation>Scegli texture</translation>
+    </message>
+    <message>
+        <source>Image Files (*.png *.jpg *.bmp *.gif)</source>
+        <translation>File immagine (*.png *.jpg *.bmp *.gif)</translation>
+    </message>
+</context>
+<context>
     <name>CircleAction</name>
     <message>
         <source>Create Circle</source>
@@ -647,6 +762,47 @@
     <message>
         <source>Create Prismatic Joint</source>
         <translation>Crea giunto prismatico</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyDelegate</name>
+    <message>
+        <source>Select Color</source>
+        <translation>Scegli colore</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyEditorWidget</name>
+    <message>
+        <source>&lt;div align=&apos;right&apos;&gt;&lt;i&gt;&lt;font size=&apos;10px&apos;&gt;(Edit properties with double-click)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</source>
+        <translation>&lt;div align='right'&gt;&lt;i&gt;&lt;font size='10px'&gt;(Modifica le proprietà con doppio clic)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</translation>
+    </message>
+    <message>
+        <source>Brush</source>
+        <translation>Pennello</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Scegli</translation>
+    </message>
+    <message>
+        <source>Specify the filter categories that %1 belongs to.</source>
+        <translation>Indicare le categorie di filtro a cui appartiene %1.</translation>
+    </message>
+    <message>
+        <source>Specify the filter categories that %1 collides with.</source>
+        <translation>Indicare le categorie di filtro con cui collide %1.</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyModel</name>
+    <message>
+        <source>Property</source>
+        <translation>Proprietà</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valore</translation>
     </message>
 </context>
 <context>

@@ -56,6 +56,121 @@
     </message>
 </context>
 <context>
+    <name>BrushDialog</name>
+    <message>
+        <source>Select Brush</source>
+        <translation>ブラシの選択</translation>
+    </message>
+    <message>
+        <source>Color/Pattern</source>
+        <translation>色/パターン</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>色</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>選択...</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>パターン</translation>
+    </message>
+    <message>
+        <source>No Brush</source>
+        <translation>ブラシなし</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>塗りつぶし</translation>
+    </message>
+    <message>
+        <source>Dense1</source>
+        <translation>密度 1</translation>
+    </message>
+    <message>
+        <source>Dense2</source>
+        <translation>密度 2</translation>
+    </message>
+    <message>
+        <source>Dense3</source>
+        <translation>密度 3</translation>
+    </message>
+    <message>
+        <source>Dense4</source>
+        <translation>密度 4</translation>
+    </message>
+    <message>
+        <source>Dense5</source>
+        <translation>密度 5</translation>
+    </message>
+    <message>
+        <source>Dense6</source>
+        <translation>密度 6</translation>
+    </message>
+    <message>
+        <source>Dense7</source>
+        <translation>密度 7</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>水平</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>垂直</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>十字</translation>
+    </message>
+    <message>
+        <source>Backward diagonal</source>
+        <translation>逆斜線</translation>
+    </message>
+    <message>
+        <source>Forward diagonal</source>
+        <translation>順斜線</translation>
+    </message>
+    <message>
+        <source>Crossing diagonal</source>
+        <translation>斜め格子</translation>
+    </message>
+    <message>
+        <source>Texture</source>
+        <translation>テクスチャ</translation>
+    </message>
+    <message>
+        <source>Auto Adjust</source>
+        <translation>自動調整</translation>
+    </message>
+    <message>
+        <source>Horizontal scale</source>
+        <translation>水平スケール</translation>
+    </message>
+    <message>
+        <source>Vertical scale</source>
+        <translation>垂直スケール</translation>
+    </message>
+    <message>
+        <source>Horizontal offset</source>
+        <translation>水平オフセット</translation>
+    </message>
+    <message>
+        <source>Vertical offset</source>
+        <translation>垂直オフセット</translation>
+    </message>
+    <message>
+        <source>Select Texture</source>
+        <translation>テクスチャの選択</translation>
+    </message>
+    <message>
+        <source>Image Files (*.png *.jpg *.bmp *.gif)</source>
+        <translation>画像ファイル (*.png *.jpg *.bmp *.gif)</translation>
+    </message>
+</context>
+<context>
     <name>CircleAction</name>
     <message>
         <source>Create Circle</source>
@@ -647,6 +762,47 @@
     <message>
         <source>Create Prismatic Joint</source>
         <translation>直動ジョイントを作成</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyDelegate</name>
+    <message>
+        <source>Select Color</source>
+        <translation>色の選択</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyEditorWidget</name>
+    <message>
+        <source>&lt;div align=&apos;right&apos;&gt;&lt;i&gt;&lt;font size=&apos;10px&apos;&gt;(Edit properties with double-click)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</source>
+        <translation>&lt;div align='right'&gt;&lt;i&gt;&lt;font size='10px'&gt;(ダブルクリックでプロパティを編集)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</translation>
+    </message>
+    <message>
+        <source>Brush</source>
+        <translation>ブラシ</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>選択</translation>
+    </message>
+    <message>
+        <source>Specify the filter categories that %1 belongs to.</source>
+        <translation>%1 が属するフィルターカテゴリを指定してください。</translation>
+    </message>
+    <message>
+        <source>Specify the filter categories that %1 collides with.</source>
+        <translation>%1 が衝突するフィルターカテゴリを指定してください。</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyModel</name>
+    <message>
+        <source>Property</source>
+        <translation>プロパティ</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
     </message>
 </context>
 <context>

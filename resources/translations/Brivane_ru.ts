@@ -56,6 +56,121 @@
     </message>
 </context>
 <context>
+    <name>BrushDialog</name>
+    <message>
+        <source>Select Brush</source>
+        <translation>Выбор кисти</translation>
+    </message>
+    <message>
+        <source>Color/Pattern</source>
+        <translation>Цвет/Узор</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Цвет</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Выбрать...</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Узор</translation>
+    </message>
+    <message>
+        <source>No Brush</source>
+        <translation>Без заливки</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>Сплошная</translation>
+    </message>
+    <message>
+        <source>Dense1</source>
+        <translation>Плотная 1</translation>
+    </message>
+    <message>
+        <source>Dense2</source>
+        <translation>Плотная 2</translation>
+    </message>
+    <message>
+        <source>Dense3</source>
+        <translation>Плотная 3</translation>
+    </message>
+    <message>
+        <source>Dense4</source>
+        <translation>Плотная 4</translation>
+    </message>
+    <message>
+        <source>Dense5</source>
+        <translation>Плотная 5</translation>
+    </message>
+    <message>
+        <source>Dense6</source>
+        <translation>Плотная 6</translation>
+    </message>
+    <message>
+        <source>Dense7</source>
+        <translation>Плотная 7</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Горизонталь</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Вертикаль</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>Клетка</translation>
+    </message>
+    <message>
+        <source>Backward diagonal</source>
+        <translation>Обратная диагональ</translation>
+    </message>
+    <message>
+        <source>Forward diagonal</source>
+        <translation>Прямая диагональ</translation>
+    </message>
+    <message>
+        <source>Crossing diagonal</source>
+        <translation>Косая клетка</translation>
+    </message>
+    <message>
+        <source>Texture</source>
+        <translation>Текстура</translation>
+    </message>
+    <message>
+        <source>Auto Adjust</source>
+        <translation>Подогнать</translation>
+    </message>
+    <message>
+        <source>Horizontal scale</source>
+        <translation>Масштаб по горизонтали</translation>
+    </message>
+    <message>
+        <source>Vertical scale</source>
+        <translation>Масштаб по вертикали</translation>
+    </message>
+    <message>
+        <source>Horizontal offset</source>
+        <translation>Сдвиг по горизонтали</translation>
+    </message>
+    <message>
+        <source>Vertical offset</source>
+        <translation>Сдвиг по вертикали</translation>
+    </message>
+    <message>
+        <source>Select Texture</source>
+        <translation>Выбор текстуры</translation>
+    </message>
+    <message>
+        <source>Image Files (*.png *.jpg *.bmp *.gif)</source>
+        <translation>Изображения (*.png *.jpg *.bmp *.gif)</translation>
+    </message>
+</context>
+<context>
     <name>CircleAction</name>
     <message>
         <source>Create Circle</source>
@@ -647,6 +762,47 @@
     <message>
         <source>Create Prismatic Joint</source>
         <translation>Создать призматическое соединение</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyDelegate</name>
+    <message>
+        <source>Select Color</source>
+        <translation>Выбор цвета</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyEditorWidget</name>
+    <message>
+        <source>&lt;div align=&apos;right&apos;&gt;&lt;i&gt;&lt;font size=&apos;10px&apos;&gt;(Edit properties with double-click)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</source>
+        <translation>&lt;div align='right'&gt;&lt;i&gt;&lt;font size='10px'&gt;(Свойства изменяются двойным щелчком)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</translation>
+    </message>
+    <message>
+        <source>Brush</source>
+        <translation>Кисть</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Выбрать</translation>
+    </message>
+    <message>
+        <source>Specify the filter categories that %1 belongs to.</source>
+        <translation>Укажите категории фильтра, к которым относится %1.</translation>
+    </message>
+    <message>
+        <source>Specify the filter categories that %1 collides with.</source>
+        <translation>Укажите категории фильтра, с которыми сталкивается %1.</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyModel</name>
+    <message>
+        <source>Property</source>
+        <translation>Свойство</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Значение</translation>
     </message>
 </context>
 <context>

@@ -56,6 +56,121 @@
     </message>
 </context>
 <context>
+    <name>BrushDialog</name>
+    <message>
+        <source>Select Brush</source>
+        <translation>选择画刷</translation>
+    </message>
+    <message>
+        <source>Color/Pattern</source>
+        <translation>颜色/图案</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>颜色</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>选择...</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>图案</translation>
+    </message>
+    <message>
+        <source>No Brush</source>
+        <translation>无画刷</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>实心</translation>
+    </message>
+    <message>
+        <source>Dense1</source>
+        <translation>密集 1</translation>
+    </message>
+    <message>
+        <source>Dense2</source>
+        <translation>密集 2</translation>
+    </message>
+    <message>
+        <source>Dense3</source>
+        <translation>密集 3</translation>
+    </message>
+    <message>
+        <source>Dense4</source>
+        <translation>密集 4</translation>
+    </message>
+    <message>
+        <source>Dense5</source>
+        <translation>密集 5</translation>
+    </message>
+    <message>
+        <source>Dense6</source>
+        <translation>密集 6</translation>
+    </message>
+    <message>
+        <source>Dense7</source>
+        <translation>密集 7</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>水平</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>垂直</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>十字</translation>
+    </message>
+    <message>
+        <source>Backward diagonal</source>
+        <translation>反斜线</translation>
+    </message>
+    <message>
+        <source>Forward diagonal</source>
+        <translation>正斜线</translation>
+    </message>
+    <message>
+        <source>Crossing diagonal</source>
+        <translation>交叉斜线</translation>
+    </message>
+    <message>
+        <source>Texture</source>
+        <translation>纹理</translation>
+    </message>
+    <message>
+        <source>Auto Adjust</source>
+        <translation>自动调整</translation>
+    </message>
+    <message>
+        <source>Horizontal scale</source>
+        <translation>水平缩放</translation>
+    </message>
+    <message>
+        <source>Vertical scale</source>
+        <translation>垂直缩放</translation>
+    </message>
+    <message>
+        <source>Horizontal offset</source>
+        <translation>水平偏移</translation>
+    </message>
+    <message>
+        <source>Vertical offset</source>
+        <translation>垂直偏移</translation>
+    </message>
+    <message>
+        <source>Select Texture</source>
+        <translation>选择纹理</translation>
+    </message>
+    <message>
+        <source>Image Files (*.png *.jpg *.bmp *.gif)</source>
+        <translation>图像文件 (*.png *.jpg *.bmp *.gif)</translation>
+    </message>
+</context>
+<context>
     <name>CircleAction</name>
     <message>
         <source>Create Circle</source>
@@ -647,6 +762,47 @@
     <message>
         <source>Create Prismatic Joint</source>
         <translation>创建平移关节</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyDelegate</name>
+    <message>
+        <source>Select Color</source>
+        <translation>选择颜色</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyEditorWidget</name>
+    <message>
+        <source>&lt;div align=&apos;right&apos;&gt;&lt;i&gt;&lt;font size=&apos;10px&apos;&gt;(Edit properties with double-click)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</source>
+        <translation>&lt;div align='right'&gt;&lt;i&gt;&lt;font size='10px'&gt;(双击编辑属性)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</translation>
+    </message>
+    <message>
+        <source>Brush</source>
+        <translation>画刷</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>选择</translation>
+    </message>
+    <message>
+        <source>Specify the filter categories that %1 belongs to.</source>
+        <translation>指定 %1 所属的过滤类别。</translation>
+    </message>
+    <message>
+        <source>Specify the filter categories that %1 collides with.</source>
+        <translation>指定与 %1 碰撞的过滤类别。</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyModel</name>
+    <message>
+        <source>Property</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
     </message>
 </context>
 <context>

@@ -140,6 +140,12 @@ QString Application::temporaryDirectory()
     return QDir::tempPath() + QDir::separator() + applicationName();
 }
 
+QString Application::dataDirectory(const QString& name)
+{
+    return applicationDirPath() + QDir::separator() + QStringLiteral("data") + QDir::separator()
+        + name;
+}
+
 void Application::initialise()
 {
     mainWindow = new MainWindow();
@@ -389,8 +395,7 @@ void Application::setupScriptEngine()
     qScriptRegisterSequenceMetaType<QList<JointItem*>>(scriptEngine);
     qScriptRegisterSequenceMetaType<QList<ForceItem*>>(scriptEngine);
 
-    autoloadScripts(applicationDirPath() + QDir::separator() + QStringLiteral("data")
-                    + QDir::separator() + QStringLiteral("scripts") + QStringLiteral("/autoload"));
+    autoloadScripts(dataDirectory(QStringLiteral("scripts")) + QStringLiteral("/autoload"));
 }
 
 void Application::autoloadScripts(const QString& directory)

@@ -38,6 +38,8 @@ public:
     // The temporary directory of the program: the system's temporary path and the
     // application name.
     static QString temporaryDirectory();
+    // A folder of the data beside the executable, such as "saves" or "textures".
+    static QString dataDirectory(const QString& name);
 
     // Second stage of start-up: the main window, its layout, the script engine.
     void initialise();

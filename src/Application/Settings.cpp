@@ -1,5 +1,7 @@
 #include "Application/Settings.h"
 
+#include "Application/Application.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QLocale>
@@ -11,14 +13,6 @@ const QSize ThumbnailSize(160, 120);
 const QMatrix TextureMatrix(0.02, 0, 0, -0.02, 0, 0);
 
 Settings* Settings::settings = nullptr;
-
-namespace {
-QString dataPath(const QString& folder)
-{
-    return QCoreApplication::applicationDirPath() + QDir::separator() + "data" + QDir::separator()
-        + folder;
-}
-} // namespace
 
 // The one table of keys: type, field, setter name, key, default, QVariant conversion.
 // Field and key names deliberately follow no common rule, so each key is spelled out.
@@ -40,7 +34,7 @@ QString dataPath(const QString& folder)
     X(QByteArray, mainWindowGeometry, MainWindowGeometry, "General/MainWindowGeometry",            \
       QByteArray(), toByteArray)                                                                   \
     X(QString, quickLoadDirectory, QuickLoadDirectory, "General/QuickLoadDirectory",               \
-      dataPath("saves"), toString)                                                                 \
+      Application::dataDirectory("saves"), toString)                                               \
     X(QSize, quickLoadIconSize, QuickLoadIconSize, "General/QuickLoadIconSize", QSize(80, 60),     \
       toSize)                                                                                      \
     X(int, guiStyle, GuiStyle, "General/GuiStyle", 0, toInt)                                       \
@@ -79,7 +73,7 @@ QString dataPath(const QString& folder)
     X(bool, gearCreateRevoluteJoint, GearCreateRevoluteJoint, "Tools/Gear/CreateRevoluteJoint",    \
       true, toBool)                                                                                \
     X(QString, imageFilename, ImageFilename, "Tools/Image/Filename",                               \
-      dataPath("images") + QDir::separator() + "tux.png", toString)                                \
+      Application::dataDirectory("images") + QDir::separator() + "tux.png", toString)              \
     X(double, imagePolygonThreshold, ImagePolygonThreshold, "Tools/Image/PolygonThreshold", 0.2,   \
       toDouble)                                                                                    \
     X(double, imageScale, ImageScale, "Tools/Image/Scale", 0.01, toDouble)                         \

@@ -3,6 +3,7 @@
 #include "Application/Application.h"
 #include "Application/Settings.h"
 #include "Files/SceneFile.h"
+#include "Gui/PropertyEditorWidget.h"
 #include "Physics/PhysicsItem.h"
 #include "Physics/PhysicsWorld.h"
 #include "Scripting/ConsoleWidget.h"
@@ -55,13 +56,6 @@ QWidget* placeholderPanel(const char* className)
     auto* panel = new QWidget();
     panel->setObjectName(QLatin1String(className));
     return panel;
-}
-
-// A folder of the data beside the executable, where the file dialogs start.
-QString dataDirectory(const char* name)
-{
-    return QCoreApplication::applicationDirPath() + QDir::separator() + QStringLiteral("data")
-        + QDir::separator() + QLatin1String(name);
 }
 
 QString sceneFilter()
@@ -291,8 +285,8 @@ const QVector<MainWindow::DockRow>& MainWindow::dockRows()
          [](MainWindow*) { return placeholderPanel("ScenePropertiesWidget"); }, sides,
          Qt::LeftDockWidgetArea, Qt::SHIFT | Qt::Key_S, DockRow::Hidden},
         {"PropertyEditorDockWidget", QT_TR_NOOP("Property Editor"),
-         [](MainWindow* window) {
-             return window->propertyEditor = placeholderPanel("PropertyEditorWidget");
+         [](MainWindow* window) -> QWidget* {
+             return window->propertyEditor = new PropertyEditorWidget();
          },
          sides, Qt::RightDockWidgetArea, Qt::SHIFT | Qt::Key_P, DockRow::ShownOnWideDesktop},
         {"QuickLoadDockWidget", QT_TR_NOOP("Quick Load"),
@@ -608,6 +602,7 @@ void MainWindow::changeEvent(QEvent* event)
 
 void MainWindow::onSceneSelectionChanged(PhysicsItem* pSelectedPhysicsItem)
 {
+    propertyEditor->setObject(pSelectedPhysicsItem);
     propertyEditor->setEnabled(pSelectedPhysicsItem != nullptr);
 }
 
@@ -661,8 +656,8 @@ void MainWindow::onSave()
 
 void MainWindow::onSaveAs()
 {
-    QString filename
-        = QFileDialog::getSaveFileName(this, tr("Save"), dataDirectory("saves"), sceneFilter());
+    QString filename = QFileDialog::getSaveFileName(
+        this, tr("Save"), Application::dataDirectory(QStringLiteral("saves")), sceneFilter());
     if (filename.isEmpty())
         return;
     const QString suffix = QLatin1Char('.') + SceneFile::extension;
@@ -673,8 +668,8 @@ void MainWindow::onSaveAs()
 
 void MainWindow::onLoad()
 {
-    const QString filename
-        = QFileDialog::getOpenFileName(this, tr("Load"), dataDirectory("saves"), sceneFilter());
+    const QString filename = QFileDialog::getOpenFileName(
+        this, tr("Load"), Application::dataDirectory(QStringLiteral("saves")), sceneFilter());
     if (!filename.isEmpty())
         Application::instance()->load(filename);
 }
@@ -690,8 +685,8 @@ void MainWindow::onPerspectiveSelected()
 
 void MainWindow::onEvaluateScript()
 {
-    const QString filename
-        = QFileDialog::getOpenFileName(this, tr("Load"), dataDirectory("scripts"), tr("*.script"));
+    const QString filename = QFileDialog::getOpenFileName(
+        this, tr("Load"), Application::dataDirectory(QStringLiteral("scripts")), tr("*.script"));
     if (!filename.isEmpty())
         Application::instance()->evaluateScript(filename);
 }

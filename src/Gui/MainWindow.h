@@ -11,6 +11,7 @@ class ConsoleWidget;
 class GraphicsView;
 class GraphicsViewAction;
 class PhysicsItem;
+class PropertyEditorWidget;
 class QActionGroup;
 class QDockWidget;
 class QMenu;
@@ -189,7 +190,7 @@ private:
     QList<QAction*> perspectiveActions;
     ActionContextToolBar* contextToolBar = nullptr;
     StatusBar* statusLine = nullptr;
-    QWidget* propertyEditor = nullptr;
+    PropertyEditorWidget* propertyEditor = nullptr;
     ConsoleWidget* consoleWidget = nullptr;
     QObjectList trackedChildren;
 };

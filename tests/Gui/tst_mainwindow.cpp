@@ -2,10 +2,8 @@
 #include "Application/Settings.h"
 #include "Gui/MainWindow.h"
 #include "Physics/PhysicsWorld.h"
-#include "Physics/RectangleItem.h"
 #include "Tools/ActionContextToolBar.h"
 #include "Tools/GraphicsViewAction.h"
-#include "View/GraphicsScene.h"
 #include "View/GraphicsView.h"
 #include "View/StatusBar.h"
 
@@ -656,29 +654,6 @@ private slots:
         QCoreApplication::processEvents();
         QCOMPARE(window()->tabifiedDockWidgets(console).size(), 2);
         QVERIFY(window()->restoreState(layout));
-    }
-
-    void propertyEditorFollowsSelection()
-    {
-        auto* editor = window()->findChild<QWidget*>(QStringLiteral("PropertyEditorWidget"));
-        QVERIFY(editor);
-        RectangleItem* first = world()->createRectangle(-2, 2, 0, 1, 1);
-        RectangleItem* second = world()->createRectangle(2, 2, 0, 1, 1);
-        GraphicsScene* scene = world()->graphicsScene();
-
-        first->graphicsItem()->setSelected(true);
-        QVERIFY(editor->isEnabled());
-        second->graphicsItem()->setSelected(true);
-        QVERIFY(!editor->isEnabled());
-        scene->clearSelection();
-        QVERIFY(!editor->isEnabled());
-        second->graphicsItem()->setSelected(true);
-        QVERIFY(editor->isEnabled());
-
-        action(Id::SelectAll)->trigger();
-        QCOMPARE(scene->selectedItems().size(), world()->items().size());
-        QVERIFY(!editor->isEnabled());
-        scene->clearSelection();
     }
 
     void zoomActionsChangeScale()

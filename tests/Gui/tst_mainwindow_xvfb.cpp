@@ -1,17 +1,31 @@
 #include "Application/Application.h"
 #include "Gui/MainWindow.h"
+#include "Gui/PropertyEditorWidget.h"
+#include "Gui/QPropertyEditorWidget.h"
+#include "Physics/PhysicsWorld.h"
+#include "Physics/RectangleItem.h"
 #include "View/GraphicsView.h"
 
 #include <QDir>
+#include <QDockWidget>
 #include <QFileInfo>
+#include <QGraphicsItem>
+#include <QLabel>
 #include <QScreen>
 #include <QSet>
 #include <QSignalSpy>
 #include <QTest>
 
 namespace {
-// The saved picture of the window, under the working directory of the tests.
+// The saved pictures, under the working directory of the tests.
 const char* const artifactPath = "artifacts/mainwindow.png";
+const char* const propertyEditorArtifactPath = "artifacts/propertyeditor.png";
+
+void saveArtifact(const QImage& image, const char* path)
+{
+    QVERIFY(QDir().mkpath(QFileInfo(QString::fromLatin1(path)).path()));
+    QVERIFY(image.save(QString::fromLatin1(path)));
+}
 
 // The scene's floor lies 1 m high under y = 0; this is its middle.
 const QPointF floorPoint(0.0, -0.5);
@@ -64,8 +78,7 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(!isWhiteOrBlack(screenshot().pixel(floor)), 5000);
 
         const QImage shot = screenshot();
-        QVERIFY(QDir().mkpath(QFileInfo(QString::fromLatin1(artifactPath)).path()));
-        QVERIFY(shot.save(QString::fromLatin1(artifactPath)));
+        saveArtifact(shot, artifactPath);
         QCOMPARE(shot.size(), window()->size());
 
         QSet<QRgb> colours;
@@ -75,6 +88,30 @@ private slots:
                 colours.insert(shot.pixel(x, y));
         }
         QVERIFY2(colours.size() > 8, qPrintable(QString::number(colours.size())));
+    }
+
+    // The editor beside the view, on a selected rectangle: its groups are open, and the brush
+    // row shows the rectangle's colour.
+    void propertyEditorShowsSelectedRectangle()
+    {
+        RectangleItem* box = PhysicsWorld::instance()->createRectangle(0, 4, 0, 2, 1);
+        box->setBrush(QColor(30, 160, 90));
+        box->graphicsItem()->setSelected(true);
+        auto* dock = window()->findChild<QDockWidget*>(QStringLiteral("PropertyEditorDockWidget"));
+        QVERIFY(dock->isVisible());
+        auto* editor = window()->findChild<PropertyEditorWidget*>();
+        QVERIFY(editor->isEnabled());
+        QAbstractItemModel* model = editor->grid()->model();
+        QVERIFY(editor->grid()->isExpanded(model->index(0, 0)));
+
+        const QRect area(dock->mapTo(window(), QPoint(0, 0)), dock->size());
+        auto* preview = editor->findChild<QLabel*>(QStringLiteral("brushPreview"));
+        const QPoint previewCentre = preview->mapTo(window(), preview->rect().center());
+        QTRY_COMPARE_WITH_TIMEOUT(QColor(screenshot().pixel(previewCentre)), QColor(30, 160, 90),
+                                  5000);
+        saveArtifact(screenshot().copy(area), propertyEditorArtifactPath);
+        box->graphicsItem()->setSelected(false);
+        PhysicsWorld::instance()->removePhysicsItem(box);
     }
 
     void windowIsMaximisedOnFirstRun()
