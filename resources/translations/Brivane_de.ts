@@ -182,10 +182,24 @@
     </message>
 </context>
 <context>
+    <name>DifferenceAction</name>
+    <message>
+        <source>Difference</source>
+        <translation>Differenz</translation>
+    </message>
+</context>
+<context>
     <name>DistanceJointAction</name>
     <message>
         <source>Create Distance Joint</source>
         <translation>Abstandsgelenk erstellen</translation>
+    </message>
+</context>
+<context>
+    <name>EraseAction</name>
+    <message>
+        <source>Erase Item</source>
+        <translation>Objekt radieren</translation>
     </message>
 </context>
 <context>
@@ -204,6 +218,13 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>IntersectionAction</name>
+    <message>
+        <source>Intersection</source>
+        <translation>Schnittmenge</translation>
     </message>
 </context>
 <context>
@@ -775,7 +796,7 @@
     <name>PropertyEditorWidget</name>
     <message>
         <source>&lt;div align=&apos;right&apos;&gt;&lt;i&gt;&lt;font size=&apos;10px&apos;&gt;(Edit properties with double-click)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</source>
-        <translation>&lt;div align='right'&gt;&lt;i&gt;&lt;font size='10px'&gt;(Eigenschaften per Doppelklick bearbeiten)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</translation>
+        <translation>&lt;div align=&apos;right&apos;&gt;&lt;i&gt;&lt;font size=&apos;10px&apos;&gt;(Eigenschaften per Doppelklick bearbeiten)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</translation>
     </message>
     <message>
         <source>Brush</source>
@@ -874,6 +895,38 @@
         <source>Gear</source>
         <translation>Zahnrad</translation>
     </message>
+    <message>
+        <source>Union</source>
+        <translation>Vereinigung</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Differenz</translation>
+    </message>
+    <message>
+        <source>Intersection</source>
+        <translation>Schnittmenge</translation>
+    </message>
+    <message>
+        <source>Circlify</source>
+        <translation>In Kreise zerlegen</translation>
+    </message>
+    <message>
+        <source>Erase</source>
+        <translation>Radieren</translation>
+    </message>
+    <message>
+        <source>Not exploded: %1 pieces would be made, more than %2.</source>
+        <translation>Nicht zerlegt: Es entstünden %1 Teile, mehr als %2.</translation>
+    </message>
+    <message>
+        <source>Squarify</source>
+        <translation>In Quadrate zerlegen</translation>
+    </message>
+    <message>
+        <source>Triangulate</source>
+        <translation>In Dreiecke zerlegen</translation>
+    </message>
 </context>
 <context>
     <name>RectangleAction</name>
@@ -922,6 +975,13 @@ Höhe=%2</translation>
     <message>
         <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
         <translation>&lt;B&gt;Y&lt;/B&gt;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>UnionAction</name>
+    <message>
+        <source>Union</source>
+        <translation>Vereinigung</translation>
     </message>
 </context>
 <context>

@@ -182,9 +182,23 @@
     </message>
 </context>
 <context>
+    <name>DifferenceAction</name>
+    <message>
+        <source>Difference</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>DistanceJointAction</name>
     <message>
         <source>Create Distance Joint</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>EraseAction</name>
+    <message>
+        <source>Erase Item</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -203,6 +217,13 @@
     </message>
     <message>
         <source>%1 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>IntersectionAction</name>
+    <message>
+        <source>Intersection</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -872,6 +893,38 @@
         <source>Gear</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Union</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Intersection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Circlify</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Erase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not exploded: %1 pieces would be made, more than %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Squarify</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Triangulate</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>RectangleAction</name>
@@ -918,6 +971,13 @@ height=%2</source>
     </message>
     <message>
         <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UnionAction</name>
+    <message>
+        <source>Union</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -182,10 +182,24 @@
     </message>
 </context>
 <context>
+    <name>DifferenceAction</name>
+    <message>
+        <source>Difference</source>
+        <translation>Diferencia</translation>
+    </message>
+</context>
+<context>
     <name>DistanceJointAction</name>
     <message>
         <source>Create Distance Joint</source>
         <translation>Crear articulación de distancia</translation>
+    </message>
+</context>
+<context>
+    <name>EraseAction</name>
+    <message>
+        <source>Erase Item</source>
+        <translation>Borrar elemento</translation>
     </message>
 </context>
 <context>
@@ -204,6 +218,13 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>IntersectionAction</name>
+    <message>
+        <source>Intersection</source>
+        <translation>Intersección</translation>
     </message>
 </context>
 <context>
@@ -775,7 +796,7 @@
     <name>PropertyEditorWidget</name>
     <message>
         <source>&lt;div align=&apos;right&apos;&gt;&lt;i&gt;&lt;font size=&apos;10px&apos;&gt;(Edit properties with double-click)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</source>
-        <translation>&lt;div align='right'&gt;&lt;i&gt;&lt;font size='10px'&gt;(Edite las propiedades con doble clic)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</translation>
+        <translation>&lt;div align=&apos;right&apos;&gt;&lt;i&gt;&lt;font size=&apos;10px&apos;&gt;(Edite las propiedades con doble clic)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</translation>
     </message>
     <message>
         <source>Brush</source>
@@ -874,6 +895,38 @@
         <source>Gear</source>
         <translation>Engranaje</translation>
     </message>
+    <message>
+        <source>Union</source>
+        <translation>Unión</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Diferencia</translation>
+    </message>
+    <message>
+        <source>Intersection</source>
+        <translation>Intersección</translation>
+    </message>
+    <message>
+        <source>Circlify</source>
+        <translation>Dividir en círculos</translation>
+    </message>
+    <message>
+        <source>Erase</source>
+        <translation>Borrar</translation>
+    </message>
+    <message>
+        <source>Not exploded: %1 pieces would be made, more than %2.</source>
+        <translation>No se ha dividido: se crearían %1 piezas, más de %2.</translation>
+    </message>
+    <message>
+        <source>Squarify</source>
+        <translation>Dividir en cuadrados</translation>
+    </message>
+    <message>
+        <source>Triangulate</source>
+        <translation>Dividir en triángulos</translation>
+    </message>
 </context>
 <context>
     <name>RectangleAction</name>
@@ -922,6 +975,13 @@ alto=%2</translation>
     <message>
         <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
         <translation>&lt;B&gt;Y&lt;/B&gt;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>UnionAction</name>
+    <message>
+        <source>Union</source>
+        <translation>Unión</translation>
     </message>
 </context>
 <context>

@@ -182,10 +182,24 @@
     </message>
 </context>
 <context>
+    <name>DifferenceAction</name>
+    <message>
+        <source>Difference</source>
+        <translation>Différence</translation>
+    </message>
+</context>
+<context>
     <name>DistanceJointAction</name>
     <message>
         <source>Create Distance Joint</source>
         <translation>Créer une liaison de distance</translation>
+    </message>
+</context>
+<context>
+    <name>EraseAction</name>
+    <message>
+        <source>Erase Item</source>
+        <translation>Gommer un objet</translation>
     </message>
 </context>
 <context>
@@ -204,6 +218,13 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>IntersectionAction</name>
+    <message>
+        <source>Intersection</source>
+        <translation>Intersection</translation>
     </message>
 </context>
 <context>
@@ -775,7 +796,7 @@
     <name>PropertyEditorWidget</name>
     <message>
         <source>&lt;div align=&apos;right&apos;&gt;&lt;i&gt;&lt;font size=&apos;10px&apos;&gt;(Edit properties with double-click)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</source>
-        <translation>&lt;div align='right'&gt;&lt;i&gt;&lt;font size='10px'&gt;(Modifier les propriétés par double-clic)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</translation>
+        <translation>&lt;div align=&apos;right&apos;&gt;&lt;i&gt;&lt;font size=&apos;10px&apos;&gt;(Modifier les propriétés par double-clic)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</translation>
     </message>
     <message>
         <source>Brush</source>
@@ -874,6 +895,38 @@
         <source>Gear</source>
         <translation>Engrenage</translation>
     </message>
+    <message>
+        <source>Union</source>
+        <translation>Union</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Différence</translation>
+    </message>
+    <message>
+        <source>Intersection</source>
+        <translation>Intersection</translation>
+    </message>
+    <message>
+        <source>Circlify</source>
+        <translation>Découper en cercles</translation>
+    </message>
+    <message>
+        <source>Erase</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>Not exploded: %1 pieces would be made, more than %2.</source>
+        <translation>Pas d'éclatement : %1 morceaux seraient créés, plus de %2.</translation>
+    </message>
+    <message>
+        <source>Squarify</source>
+        <translation>Découper en carrés</translation>
+    </message>
+    <message>
+        <source>Triangulate</source>
+        <translation>Découper en triangles</translation>
+    </message>
 </context>
 <context>
     <name>RectangleAction</name>
@@ -922,6 +975,13 @@ hauteur=%2</translation>
     <message>
         <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
         <translation>&lt;B&gt;Y&lt;/B&gt; : %1</translation>
+    </message>
+</context>
+<context>
+    <name>UnionAction</name>
+    <message>
+        <source>Union</source>
+        <translation>Union</translation>
     </message>
 </context>
 <context>

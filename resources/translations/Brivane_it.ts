@@ -127,7 +127,7 @@
     </message>
     <message>
         <source>Backward diagonal</source>
-        <translation>Diagonale all'indietro</translation>
+        <translation>Diagonale all&apos;indietro</translation>
     </message>
     <message>
         <source>Forward diagonal</source>
@@ -182,10 +182,24 @@
     </message>
 </context>
 <context>
+    <name>DifferenceAction</name>
+    <message>
+        <source>Difference</source>
+        <translation>Differenza</translation>
+    </message>
+</context>
+<context>
     <name>DistanceJointAction</name>
     <message>
         <source>Create Distance Joint</source>
         <translation>Crea giunto di distanza</translation>
+    </message>
+</context>
+<context>
+    <name>EraseAction</name>
+    <message>
+        <source>Erase Item</source>
+        <translation>Cancella oggetto</translation>
     </message>
 </context>
 <context>
@@ -204,6 +218,13 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>IntersectionAction</name>
+    <message>
+        <source>Intersection</source>
+        <translation>Intersezione</translation>
     </message>
 </context>
 <context>
@@ -775,7 +796,7 @@
     <name>PropertyEditorWidget</name>
     <message>
         <source>&lt;div align=&apos;right&apos;&gt;&lt;i&gt;&lt;font size=&apos;10px&apos;&gt;(Edit properties with double-click)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</source>
-        <translation>&lt;div align='right'&gt;&lt;i&gt;&lt;font size='10px'&gt;(Modifica le proprietà con doppio clic)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</translation>
+        <translation>&lt;div align=&apos;right&apos;&gt;&lt;i&gt;&lt;font size=&apos;10px&apos;&gt;(Modifica le proprietà con doppio clic)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</translation>
     </message>
     <message>
         <source>Brush</source>
@@ -874,6 +895,38 @@
         <source>Gear</source>
         <translation>Ingranaggio</translation>
     </message>
+    <message>
+        <source>Union</source>
+        <translation>Unione</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Differenza</translation>
+    </message>
+    <message>
+        <source>Intersection</source>
+        <translation>Intersezione</translation>
+    </message>
+    <message>
+        <source>Circlify</source>
+        <translation>Dividi in cerchi</translation>
+    </message>
+    <message>
+        <source>Erase</source>
+        <translation>Cancella</translation>
+    </message>
+    <message>
+        <source>Not exploded: %1 pieces would be made, more than %2.</source>
+        <translation>Non diviso: si creerebbero %1 pezzi, più di %2.</translation>
+    </message>
+    <message>
+        <source>Squarify</source>
+        <translation>Dividi in quadrati</translation>
+    </message>
+    <message>
+        <source>Triangulate</source>
+        <translation>Dividi in triangoli</translation>
+    </message>
 </context>
 <context>
     <name>RectangleAction</name>
@@ -922,6 +975,13 @@ altezza=%2</translation>
     <message>
         <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
         <translation>&lt;B&gt;Y&lt;/B&gt;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>UnionAction</name>
+    <message>
+        <source>Union</source>
+        <translation>Unione</translation>
     </message>
 </context>
 <context>

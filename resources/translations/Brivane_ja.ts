@@ -182,10 +182,24 @@
     </message>
 </context>
 <context>
+    <name>DifferenceAction</name>
+    <message>
+        <source>Difference</source>
+        <translation>差分</translation>
+    </message>
+</context>
+<context>
     <name>DistanceJointAction</name>
     <message>
         <source>Create Distance Joint</source>
         <translation>距離ジョイントを作成</translation>
+    </message>
+</context>
+<context>
+    <name>EraseAction</name>
+    <message>
+        <source>Erase Item</source>
+        <translation>アイテムを消去</translation>
     </message>
 </context>
 <context>
@@ -204,6 +218,13 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>IntersectionAction</name>
+    <message>
+        <source>Intersection</source>
+        <translation>交差</translation>
     </message>
 </context>
 <context>
@@ -775,7 +796,7 @@
     <name>PropertyEditorWidget</name>
     <message>
         <source>&lt;div align=&apos;right&apos;&gt;&lt;i&gt;&lt;font size=&apos;10px&apos;&gt;(Edit properties with double-click)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</source>
-        <translation>&lt;div align='right'&gt;&lt;i&gt;&lt;font size='10px'&gt;(ダブルクリックでプロパティを編集)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</translation>
+        <translation>&lt;div align=&apos;right&apos;&gt;&lt;i&gt;&lt;font size=&apos;10px&apos;&gt;(ダブルクリックでプロパティを編集)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</translation>
     </message>
     <message>
         <source>Brush</source>
@@ -874,6 +895,38 @@
         <source>Gear</source>
         <translation>歯車</translation>
     </message>
+    <message>
+        <source>Union</source>
+        <translation>結合</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>差分</translation>
+    </message>
+    <message>
+        <source>Intersection</source>
+        <translation>交差</translation>
+    </message>
+    <message>
+        <source>Circlify</source>
+        <translation>円に分割</translation>
+    </message>
+    <message>
+        <source>Erase</source>
+        <translation>消去</translation>
+    </message>
+    <message>
+        <source>Not exploded: %1 pieces would be made, more than %2.</source>
+        <translation>分割しませんでした: %1 個の破片ができ、%2 個を超えます。</translation>
+    </message>
+    <message>
+        <source>Squarify</source>
+        <translation>正方形に分割</translation>
+    </message>
+    <message>
+        <source>Triangulate</source>
+        <translation>三角形に分割</translation>
+    </message>
 </context>
 <context>
     <name>RectangleAction</name>
@@ -922,6 +975,13 @@ height=%2</source>
     <message>
         <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
         <translation>&lt;B&gt;Y&lt;/B&gt;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>UnionAction</name>
+    <message>
+        <source>Union</source>
+        <translation>結合</translation>
     </message>
 </context>
 <context>

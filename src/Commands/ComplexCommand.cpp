@@ -1,6 +1,7 @@
 #include "Commands/ComplexCommand.h"
 
-#include "Physics/PhysicsItem.h"
+#include "Physics/BodyItem.h"
+#include "Physics/PhysicsWorld.h"
 
 ComplexCommand::ComplexCommand(const QString& text, QUndoCommand* parent)
     : PhysicsWorldCommand(parent)
@@ -13,8 +14,15 @@ ComplexCommand::~ComplexCommand()
     newItems.removeFromWorld();
 }
 
-void ComplexCommand::addItem(PhysicsItem* item)
+void ComplexCommand::dress(BodyItem* piece, BodyItem* source, const ScenePicture* picture)
 {
+    piece->setActive(false);
+    piece->setBasicPropertiesFrom(source, picture);
+}
+
+void ComplexCommand::record(PhysicsItem* item)
+{
+    PhysicsWorld::instance()->addPhysicsItem(item);
     properties.append(XPropertyList::read(item));
     item->setActive(false);
     newItems.append(item);

@@ -10,9 +10,12 @@
 #include "Tools/ActionContextToolBar.h"
 #include "Tools/BalloonAction.h"
 #include "Tools/CircleAction.h"
+#include "Tools/DifferenceAction.h"
 #include "Tools/DistanceJointAction.h"
+#include "Tools/EraseAction.h"
 #include "Tools/GearAction.h"
 #include "Tools/GraphicsViewAction.h"
+#include "Tools/IntersectionAction.h"
 #include "Tools/PlayPauseAction.h"
 #include "Tools/PolygonAction.h"
 #include "Tools/PrismaticJointAction.h"
@@ -21,6 +24,7 @@
 #include "Tools/RevoluteJointAction.h"
 #include "Tools/SelectAction.h"
 #include "Tools/SpringForceAction.h"
+#include "Tools/UnionAction.h"
 #include "View/GraphicsScene.h"
 #include "View/GraphicsView.h"
 #include "View/StatusBar.h"
@@ -180,7 +184,7 @@ MainWindow::actionRows()
         {Id::Explode, QT_TR_NOOP("Explode Item"), QT_TR_NOOP("Explodes an item"), "bomb", none, 0,
          &MainWindow::makeUnavailableTool, nullptr},
         {Id::Erase, QT_TR_NOOP("Erase Item"), QT_TR_NOOP("Erases parts of an item"), "eraser", none,
-         0, &MainWindow::makeUnavailableTool, nullptr},
+         0, &MainWindow::makeTool<EraseAction>, nullptr},
         {Id::Camera, QT_TR_NOOP("Create Camera"),
          QT_TR_NOOP("Creates a camera that follows an item"), "camera", none, 0,
          &MainWindow::makeUnavailableTool, nullptr},
@@ -231,13 +235,13 @@ MainWindow::actionRows()
          &MainWindow::makeTool<SpringForceAction>, nullptr},
         {Id::Union, QT_TR_NOOP("Union"),
          QT_TR_NOOP("Creates an item from the union of two other items"), "union", none, 0,
-         &MainWindow::makeUnavailableTool, nullptr},
+         &MainWindow::makeTool<UnionAction>, nullptr},
         {Id::Difference, QT_TR_NOOP("Difference"),
          QT_TR_NOOP("Creates an item from the difference of two other items"), "difference", none,
-         0, &MainWindow::makeUnavailableTool, nullptr},
+         0, &MainWindow::makeTool<DifferenceAction>, nullptr},
         {Id::Intersection, QT_TR_NOOP("Intersection"),
          QT_TR_NOOP("Creates an item from the intersection of two other items"), "intersection",
-         none, 0, &MainWindow::makeUnavailableTool, nullptr},
+         none, 0, &MainWindow::makeTool<IntersectionAction>, nullptr},
     }};
     return rows;
 }

@@ -5,6 +5,7 @@
 #include "NemuToolbox/Toolbox.h"
 #include "Physics/Box2DLimits.h"
 #include "Physics/PhysicsWorld.h"
+#include "Physics/ScenePicture.h"
 #include "View/CosmeticPens.h"
 
 #include <QGraphicsEllipseItem>
@@ -406,34 +407,18 @@ void BodyItem::autoAdjustTexture()
     setBrush(newBrush);
 }
 
-void BodyItem::setBasicPropertiesFrom(BodyItem* pBodyItem)
+void BodyItem::setBasicPropertiesFrom(BodyItem* pBodyItem, const ScenePicture* picture)
 {
     if (!pBodyItem)
         return;
-    const QBrush otherBrush = pBodyItem->brush();
-    const QPixmap texture = otherBrush.texture();
-    const double m11 = otherBrush.transform().m11();
-    const double m22 = otherBrush.transform().m22();
-    QBrush newBrush = otherBrush;
-    // A textured brush becomes a picture of what the scene shows under this piece. A zero
-    // scale, which only a hand-made scene file can hold, keeps the brush as it is.
-    if (!texture.isNull() && m11 != 0.0 && m22 != 0.0 && pGraphicsItem->scene()) {
+    QBrush newBrush = pBodyItem->brush();
+    // A textured brush becomes a picture of what the scene shows under this piece.
+    if (ScenePicture::isNeeded(pBodyItem)) {
         const QRectF rect = worldPolygon().boundingRect();
-        const QSize size(qRound(qAbs(rect.width() / m11)), qRound(qAbs(rect.height() / m22)));
-        if (!size.isEmpty() && size.width() <= 8192 && size.height() <= 8192) {
-            QImage image(size, QImage::Format_RGB32);
-            image.fill(Qt::white);
-            pBodyItem->graphicsItem()->setSelected(false);
-            QPainter painter(&image);
-            painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-            pGraphicsItem->setVisible(false);
-            pGraphicsItem->scene()->render(&painter, QRectF(), rect, Qt::KeepAspectRatio);
-            pGraphicsItem->setVisible(true);
-            painter.end();
-            newBrush = QBrush(QPixmap::fromImage(image));
-            newBrush.setTransform(
-                QTransform(m11, 0, 0, qAbs(m22), -rect.width() * 0.5, -rect.height() * 0.5));
-        }
+        const QBrush cut
+            = picture ? picture->brush(rect) : ScenePicture(pBodyItem, rect).brush(rect);
+        if (cut.style() == Qt::TexturePattern)
+            newBrush = cut;
     }
     setZValue(pBodyItem->zValue());
     setBodyType(pBodyItem->bodyType());

@@ -10,6 +10,7 @@
 #include <box2d/box2d.h>
 
 class QGraphicsEllipseItem;
+class ScenePicture;
 
 // Base of everything solid in a scene: one b2Body and one graphics item kept in step. It owns
 // the fixture definitions beside the live fixtures, since Box2D cannot change a live fixture's
@@ -78,6 +79,10 @@ public:
     void runOnContact(const QScriptValue& other);
     // Puts the body back where its graphics item stands, which was finite when it was drawn.
     void restoreDrawnPose();
+    // Dresses this new body as a piece of another: its look, its physical values and its
+    // velocities. A textured brush becomes a picture of the scene under this body, cut from
+    // `picture` where the caller rendered one for all its pieces.
+    void setBasicPropertiesFrom(BodyItem* pBodyItem, const ScenePicture* picture);
 
     // Degrees to Box2D radians and back, through the float factors that the scene files of
     // earlier versions were written with.
@@ -131,7 +136,7 @@ public slots:
 
     bool isStatic() const;
     void autoAdjustTexture();
-    void setBasicPropertiesFrom(BodyItem* pBodyItem);
+    void setBasicPropertiesFrom(BodyItem* pBodyItem) { setBasicPropertiesFrom(pBodyItem, nullptr); }
     void setLinearVelocity(double x, double y);
     void setXForm(double x, double y, double theta);
     void applyForce(QLineF line);

@@ -45,6 +45,10 @@ public:
     // The anchors in world coordinates as "x,y", six significant digits each.
     QString anchor1() const;
     QString anchor2() const;
+    // The anchors in world coordinates, from the live joint or, while there is none, from the
+    // definition.
+    QPointF anchorA() const;
+    QPointF anchorB() const;
 
     // Box2D radians to the degrees of joint properties: the exact inverse of
     // BodyItem::degreesToRadians, so a value written in degrees reads back as it was but for
@@ -63,10 +67,6 @@ protected:
     // The b2Body of the first and of the second body item, or the background body for none.
     b2Body* body1() const;
     b2Body* body2() const;
-    // The anchors in world coordinates, from the live joint or, while there is none, from the
-    // definition.
-    QPointF anchorA() const;
-    QPointF anchorB() const;
     // The local anchors that the definition holds, in the coordinates of each body.
     virtual b2Vec2 localAnchorA() const = 0;
     virtual b2Vec2 localAnchorB() const = 0;

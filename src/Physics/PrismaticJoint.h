@@ -33,6 +33,8 @@ public:
     double bodyItem1AnchorY() const { return trackEnd1().y(); }
     double bodyItem2AnchorX() const { return trackEnd2().x(); }
     double bodyItem2AnchorY() const { return trackEnd2().y(); }
+    QPointF trackEnd1() const;
+    QPointF trackEnd2() const;
 
 public slots:
     // Metres along the axis; an upper limit below the lower one is taken as equal to it.
@@ -49,8 +51,6 @@ protected:
 
 private:
     b2PrismaticJoint* prismaticJoint() const { return static_cast<b2PrismaticJoint*>(joint()); }
-    QPointF trackEnd1() const;
-    QPointF trackEnd2() const;
 
     b2PrismaticJointDef definition;
     // The track's ends in the coordinates of the first and of the second body.

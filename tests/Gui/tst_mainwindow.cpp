@@ -180,7 +180,7 @@ private slots:
         row(Id::Remove, "Remove", "Removes an item or a selection of items from the scene",
             "remove", Key(), false);
         row(Id::Explode, "Explode Item", "Explodes an item", "bomb", Key(), false);
-        row(Id::Erase, "Erase Item", "Erases parts of an item", "eraser", Key(), false);
+        row(Id::Erase, "Erase Item", "Erases parts of an item", "eraser", Key(), true);
         row(Id::Camera, "Create Camera", "Creates a camera that follows an item", "camera", Key(),
             false);
         row(Id::Tracer, "Create Tracer", "Creates a tracer that follows an item", "tracer", Key(),
@@ -212,12 +212,12 @@ private slots:
         row(Id::SpringForce, "Create Spring", "Creates a spring between two items", "spring", Key(),
             true);
         row(Id::Union, "Union", "Creates an item from the union of two other items", "union", Key(),
-            false);
+            true);
         row(Id::Difference, "Difference", "Creates an item from the difference of two other items",
-            "difference", Key(), false);
+            "difference", Key(), true);
         row(Id::Intersection, "Intersection",
             "Creates an item from the intersection of two other items", "intersection", Key(),
-            false);
+            true);
     }
 
     void actionTable()
