@@ -56,6 +56,13 @@
     </message>
 </context>
 <context>
+    <name>BrushAction</name>
+    <message>
+        <source>Create freehand shape</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>BrushDialog</name>
     <message>
         <source>Select Brush</source>
@@ -171,6 +178,13 @@
     </message>
 </context>
 <context>
+    <name>ChainAction</name>
+    <message>
+        <source>Create Chain</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>CircleAction</name>
     <message>
         <source>Create Circle</source>
@@ -217,6 +231,13 @@
     </message>
     <message>
         <source>%1 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ImageAction</name>
+    <message>
+        <source>Create Image</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -925,6 +946,22 @@
         <source>Triangulate</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Chain</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rope</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>RectangleAction</name>
@@ -942,6 +979,13 @@ height=%2</source>
     <name>RevoluteJointAction</name>
     <message>
         <source>Create Revolute Joint</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RopeAction</name>
+    <message>
+        <source>Create Rope</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -971,6 +1015,13 @@ height=%2</source>
     </message>
     <message>
         <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TextAction</name>
+    <message>
+        <source>Create Text</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -56,6 +56,13 @@
     </message>
 </context>
 <context>
+    <name>BrushAction</name>
+    <message>
+        <source>Create freehand shape</source>
+        <translation>Crear forma a mano alzada</translation>
+    </message>
+</context>
+<context>
     <name>BrushDialog</name>
     <message>
         <source>Select Brush</source>
@@ -171,6 +178,13 @@
     </message>
 </context>
 <context>
+    <name>ChainAction</name>
+    <message>
+        <source>Create Chain</source>
+        <translation>Crear cadena</translation>
+    </message>
+</context>
+<context>
     <name>CircleAction</name>
     <message>
         <source>Create Circle</source>
@@ -218,6 +232,13 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>ImageAction</name>
+    <message>
+        <source>Create Image</source>
+        <translation>Crear desde imagen</translation>
     </message>
 </context>
 <context>
@@ -927,6 +948,22 @@
         <source>Triangulate</source>
         <translation>Dividir en triángulos</translation>
     </message>
+    <message>
+        <source>Chain</source>
+        <translation>Cadena</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Imagen</translation>
+    </message>
+    <message>
+        <source>Rope</source>
+        <translation>Cuerda</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
 </context>
 <context>
     <name>RectangleAction</name>
@@ -946,6 +983,13 @@ alto=%2</translation>
     <message>
         <source>Create Revolute Joint</source>
         <translation>Crear articulación de revolución</translation>
+    </message>
+</context>
+<context>
+    <name>RopeAction</name>
+    <message>
+        <source>Create Rope</source>
+        <translation>Crear cuerda</translation>
     </message>
 </context>
 <context>
@@ -975,6 +1019,13 @@ alto=%2</translation>
     <message>
         <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
         <translation>&lt;B&gt;Y&lt;/B&gt;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TextAction</name>
+    <message>
+        <source>Create Text</source>
+        <translation>Crear texto</translation>
     </message>
 </context>
 <context>

@@ -56,6 +56,13 @@
     </message>
 </context>
 <context>
+    <name>BrushAction</name>
+    <message>
+        <source>Create freehand shape</source>
+        <translation>Créer une forme à main levée</translation>
+    </message>
+</context>
+<context>
     <name>BrushDialog</name>
     <message>
         <source>Select Brush</source>
@@ -171,6 +178,13 @@
     </message>
 </context>
 <context>
+    <name>ChainAction</name>
+    <message>
+        <source>Create Chain</source>
+        <translation>Créer une chaîne</translation>
+    </message>
+</context>
+<context>
     <name>CircleAction</name>
     <message>
         <source>Create Circle</source>
@@ -218,6 +232,13 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>ImageAction</name>
+    <message>
+        <source>Create Image</source>
+        <translation>Créer depuis une image</translation>
     </message>
 </context>
 <context>
@@ -917,7 +938,7 @@
     </message>
     <message>
         <source>Not exploded: %1 pieces would be made, more than %2.</source>
-        <translation>Pas d'éclatement : %1 morceaux seraient créés, plus de %2.</translation>
+        <translation>Pas d&apos;éclatement : %1 morceaux seraient créés, plus de %2.</translation>
     </message>
     <message>
         <source>Squarify</source>
@@ -926,6 +947,22 @@
     <message>
         <source>Triangulate</source>
         <translation>Découper en triangles</translation>
+    </message>
+    <message>
+        <source>Chain</source>
+        <translation>Chaîne</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Rope</source>
+        <translation>Corde</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
     </message>
 </context>
 <context>
@@ -946,6 +983,13 @@ hauteur=%2</translation>
     <message>
         <source>Create Revolute Joint</source>
         <translation>Créer une liaison pivot</translation>
+    </message>
+</context>
+<context>
+    <name>RopeAction</name>
+    <message>
+        <source>Create Rope</source>
+        <translation>Créer une corde</translation>
     </message>
 </context>
 <context>
@@ -975,6 +1019,13 @@ hauteur=%2</translation>
     <message>
         <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
         <translation>&lt;B&gt;Y&lt;/B&gt; : %1</translation>
+    </message>
+</context>
+<context>
+    <name>TextAction</name>
+    <message>
+        <source>Create Text</source>
+        <translation>Créer un texte</translation>
     </message>
 </context>
 <context>

@@ -56,6 +56,13 @@
     </message>
 </context>
 <context>
+    <name>BrushAction</name>
+    <message>
+        <source>Create freehand shape</source>
+        <translation>Crea forma a mano libera</translation>
+    </message>
+</context>
+<context>
     <name>BrushDialog</name>
     <message>
         <source>Select Brush</source>
@@ -171,6 +178,13 @@
     </message>
 </context>
 <context>
+    <name>ChainAction</name>
+    <message>
+        <source>Create Chain</source>
+        <translation>Crea catena</translation>
+    </message>
+</context>
+<context>
     <name>CircleAction</name>
     <message>
         <source>Create Circle</source>
@@ -218,6 +232,13 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>ImageAction</name>
+    <message>
+        <source>Create Image</source>
+        <translation>Crea da immagine</translation>
     </message>
 </context>
 <context>
@@ -927,6 +948,22 @@
         <source>Triangulate</source>
         <translation>Dividi in triangoli</translation>
     </message>
+    <message>
+        <source>Chain</source>
+        <translation>Catena</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Immagine</translation>
+    </message>
+    <message>
+        <source>Rope</source>
+        <translation>Corda</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Testo</translation>
+    </message>
 </context>
 <context>
     <name>RectangleAction</name>
@@ -946,6 +983,13 @@ altezza=%2</translation>
     <message>
         <source>Create Revolute Joint</source>
         <translation>Crea giunto rotoidale</translation>
+    </message>
+</context>
+<context>
+    <name>RopeAction</name>
+    <message>
+        <source>Create Rope</source>
+        <translation>Crea corda</translation>
     </message>
 </context>
 <context>
@@ -975,6 +1019,13 @@ altezza=%2</translation>
     <message>
         <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
         <translation>&lt;B&gt;Y&lt;/B&gt;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TextAction</name>
+    <message>
+        <source>Create Text</source>
+        <translation>Crea testo</translation>
     </message>
 </context>
 <context>

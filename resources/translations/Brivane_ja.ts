@@ -56,6 +56,13 @@
     </message>
 </context>
 <context>
+    <name>BrushAction</name>
+    <message>
+        <source>Create freehand shape</source>
+        <translation>フリーハンド図形を作成</translation>
+    </message>
+</context>
+<context>
     <name>BrushDialog</name>
     <message>
         <source>Select Brush</source>
@@ -171,6 +178,13 @@
     </message>
 </context>
 <context>
+    <name>ChainAction</name>
+    <message>
+        <source>Create Chain</source>
+        <translation>チェーンを作成</translation>
+    </message>
+</context>
+<context>
     <name>CircleAction</name>
     <message>
         <source>Create Circle</source>
@@ -218,6 +232,13 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>ImageAction</name>
+    <message>
+        <source>Create Image</source>
+        <translation>画像から作成</translation>
     </message>
 </context>
 <context>
@@ -927,6 +948,22 @@
         <source>Triangulate</source>
         <translation>三角形に分割</translation>
     </message>
+    <message>
+        <source>Chain</source>
+        <translation>チェーン</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>Rope</source>
+        <translation>ロープ</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>テキスト</translation>
+    </message>
 </context>
 <context>
     <name>RectangleAction</name>
@@ -946,6 +983,13 @@ height=%2</source>
     <message>
         <source>Create Revolute Joint</source>
         <translation>回転ジョイントを作成</translation>
+    </message>
+</context>
+<context>
+    <name>RopeAction</name>
+    <message>
+        <source>Create Rope</source>
+        <translation>ロープを作成</translation>
     </message>
 </context>
 <context>
@@ -975,6 +1019,13 @@ height=%2</source>
     <message>
         <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
         <translation>&lt;B&gt;Y&lt;/B&gt;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TextAction</name>
+    <message>
+        <source>Create Text</source>
+        <translation>テキストを作成</translation>
     </message>
 </context>
 <context>

@@ -9,12 +9,15 @@
 #include "Scripting/ConsoleWidget.h"
 #include "Tools/ActionContextToolBar.h"
 #include "Tools/BalloonAction.h"
+#include "Tools/BrushAction.h"
+#include "Tools/ChainAction.h"
 #include "Tools/CircleAction.h"
 #include "Tools/DifferenceAction.h"
 #include "Tools/DistanceJointAction.h"
 #include "Tools/EraseAction.h"
 #include "Tools/GearAction.h"
 #include "Tools/GraphicsViewAction.h"
+#include "Tools/ImageAction.h"
 #include "Tools/IntersectionAction.h"
 #include "Tools/PlayPauseAction.h"
 #include "Tools/PolygonAction.h"
@@ -22,8 +25,10 @@
 #include "Tools/PulleyJointAction.h"
 #include "Tools/RectangleAction.h"
 #include "Tools/RevoluteJointAction.h"
+#include "Tools/RopeAction.h"
 #include "Tools/SelectAction.h"
 #include "Tools/SpringForceAction.h"
+#include "Tools/TextAction.h"
 #include "Tools/UnionAction.h"
 #include "View/GraphicsScene.h"
 #include "View/GraphicsView.h"
@@ -206,18 +211,18 @@ MainWindow::actionRows()
          none, 0, &MainWindow::makeTool<BalloonAction>, nullptr},
         {Id::Brush, QT_TR_NOOP("Create freehand shape"),
          QT_TR_NOOP("Freehand drawing of random shapes"), "brush", none, 0,
-         &MainWindow::makeUnavailableTool, nullptr},
+         &MainWindow::makeTool<BrushAction>, nullptr},
         {Id::Chain, QT_TR_NOOP("Create Chain"), QT_TR_NOOP("Creates a chain"), "chain", none, 0,
-         &MainWindow::makeUnavailableTool, nullptr},
+         &MainWindow::makeTool<ChainAction>, nullptr},
         {Id::Rope, QT_TR_NOOP("Create Rope"), QT_TR_NOOP("Creates a rope"), "rope", none, 0,
-         &MainWindow::makeUnavailableTool, nullptr},
+         &MainWindow::makeTool<RopeAction>, nullptr},
         {Id::Text, QT_TR_NOOP("Create Text"), QT_TR_NOOP("Creates items from text"), "text", none,
-         0, &MainWindow::makeUnavailableTool, nullptr},
+         0, &MainWindow::makeTool<TextAction>, nullptr},
         {Id::Gear, QT_TR_NOOP("Create Gear"), QT_TR_NOOP("Creates a gear"), "gear", none, 0,
          &MainWindow::makeTool<GearAction>, nullptr},
         {Id::Image, QT_TR_NOOP("Create Image"),
          QT_TR_NOOP("Creates a shape based on the outline of a (png) image"), "image", none, 0,
-         &MainWindow::makeUnavailableTool, nullptr},
+         &MainWindow::makeTool<ImageAction>, nullptr},
         {Id::DistanceJoint, QT_TR_NOOP("Create Distance Joint"),
          QT_TR_NOOP("Creates a distance joint between two items (or an item and the background)"),
          "D", none, 0, &MainWindow::makeTool<DistanceJointAction>, nullptr},

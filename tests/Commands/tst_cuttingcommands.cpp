@@ -3,6 +3,7 @@
 #include "Commands/EraseCommand.h"
 #include "Commands/ExplodeCommand.h"
 #include "Commands/TriangulateCommand.h"
+#include "ItemsOf.h"
 #include "MessageLog.h"
 #include "Physics/CircleItem.h"
 #include "Physics/DistanceJoint.h"
@@ -28,16 +29,6 @@ PhysicsWorld* world()
 QUndoStack* stack()
 {
     return Application::instance()->undoStack;
-}
-
-QList<BodyItem*> bodies(const PhysicsItemList& items)
-{
-    QList<BodyItem*> result;
-    for (PhysicsItem* item : items) {
-        if (BodyItem* body = item->toBodyItem())
-            result.append(body);
-    }
-    return result;
 }
 
 double totalArea(const QList<BodyItem*>& pieces)
@@ -118,7 +109,7 @@ private slots:
         QFETCH(double, remainingArea);
         auto* command = new EraseCommand(eraser);
         stack()->push(command);
-        const QList<BodyItem*> made = bodies(command->items());
+        const QList<BodyItem*> made = itemsOf<BodyItem>(command->items());
         QCOMPARE(made.size(), pieces);
         QCOMPARE(bar->isActive(), pieces == 0);
         QVERIFY(std::abs(totalArea(made) - remainingArea) < 1e-6);
@@ -207,7 +198,7 @@ private slots:
         auto* command = new BooleanCommand(lower, top, type);
         stack()->push(command);
         QCOMPARE(command->text(), text);
-        const QList<BodyItem*> made = bodies(command->items());
+        const QList<BodyItem*> made = itemsOf<BodyItem>(command->items());
         QCOMPARE(made.size(), 1);
         QVERIFY(std::abs(totalArea(made) - expectedArea) < 1e-6);
         QCOMPARE(made.first()->density(), 2.5);
@@ -243,7 +234,7 @@ private slots:
         QVERIFY(command);
         stack()->push(command);
         QVERIFY(!bar->isActive());
-        const QList<BodyItem*> made = bodies(command->items());
+        const QList<BodyItem*> made = itemsOf<BodyItem>(command->items());
         QCOMPARE(made.size(), pieces < 0 ? bar->triangles().size() : pieces);
         if (method == ExplodeCommand::Triangulate)
             QVERIFY(std::abs(totalArea(made) - 4.0) < 0.04);
@@ -276,7 +267,7 @@ private slots:
         bar->setBodyType(BodyItem::StaticBody);
         auto* command = new TriangulateCommand(bar);
         stack()->push(command);
-        for (BodyItem* piece : bodies(command->items()))
+        for (BodyItem* piece : itemsOf<BodyItem>(command->items()))
             QCOMPARE(piece->bodyType(), BodyItem::StaticBody);
     }
 
@@ -306,7 +297,7 @@ private slots:
         onTop->setBrush(QColor(Qt::red));
         onTop->setZValue(bar->zValue() + 1);
         ExplodeCommand* command = ExplodeCommand::create(bar, ExplodeCommand::Squarify, 1.0);
-        const QList<BodyItem*> made = bodies(command->items());
+        const QList<BodyItem*> made = itemsOf<BodyItem>(command->items());
         QVERIFY(!made.isEmpty());
         bool redSeen = false;
         for (BodyItem* piece : made) {

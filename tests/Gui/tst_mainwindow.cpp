@@ -192,13 +192,13 @@ private slots:
         row(Id::Polygon, "Create Polygon", "Creates a polygon", "polygon", Key(), true);
         row(Id::Balloon, "Create Balloon", "Creates a balloon", "balloon", Key(), true);
         row(Id::Brush, "Create freehand shape", "Freehand drawing of random shapes", "brush", Key(),
-            false);
-        row(Id::Chain, "Create Chain", "Creates a chain", "chain", Key(), false);
-        row(Id::Rope, "Create Rope", "Creates a rope", "rope", Key(), false);
-        row(Id::Text, "Create Text", "Creates items from text", "text", Key(), false);
+            true);
+        row(Id::Chain, "Create Chain", "Creates a chain", "chain", Key(), true);
+        row(Id::Rope, "Create Rope", "Creates a rope", "rope", Key(), true);
+        row(Id::Text, "Create Text", "Creates items from text", "text", Key(), true);
         row(Id::Gear, "Create Gear", "Creates a gear", "gear", Key(), true);
         row(Id::Image, "Create Image", "Creates a shape based on the outline of a (png) image",
-            "image", Key(), false);
+            "image", Key(), true);
         row(Id::DistanceJoint, "Create Distance Joint",
             "Creates a distance joint between two items (or an item and the background)", "D",
             Key(), true);
