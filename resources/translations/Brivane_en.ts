@@ -217,6 +217,13 @@
     </message>
 </context>
 <context>
+    <name>ExplodeAction</name>
+    <message>
+        <source>Explode Item</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>GearAction</name>
     <message>
         <source>Create Gear</source>
@@ -231,6 +238,13 @@
     </message>
     <message>
         <source>%1 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>GunAction</name>
+    <message>
+        <source>Shoot Item</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -972,6 +986,13 @@
     <message>
         <source>width=%1
 height=%2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RemoveAction</name>
+    <message>
+        <source>Remove</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -217,6 +217,13 @@
     </message>
 </context>
 <context>
+    <name>ExplodeAction</name>
+    <message>
+        <source>Explode Item</source>
+        <translation>Explotar elemento</translation>
+    </message>
+</context>
+<context>
     <name>GearAction</name>
     <message>
         <source>Create Gear</source>
@@ -232,6 +239,13 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>GunAction</name>
+    <message>
+        <source>Shoot Item</source>
+        <translation>Disparar elemento</translation>
     </message>
 </context>
 <context>
@@ -976,6 +990,13 @@
 height=%2</source>
         <translation>ancho=%1
 alto=%2</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveAction</name>
+    <message>
+        <source>Remove</source>
+        <translation>Eliminar</translation>
     </message>
 </context>
 <context>

@@ -217,6 +217,13 @@
     </message>
 </context>
 <context>
+    <name>ExplodeAction</name>
+    <message>
+        <source>Explode Item</source>
+        <translation>Взорвать объект</translation>
+    </message>
+</context>
+<context>
     <name>GearAction</name>
     <message>
         <source>Create Gear</source>
@@ -232,6 +239,13 @@
     <message>
         <source>%1 m</source>
         <translation>%1 м</translation>
+    </message>
+</context>
+<context>
+    <name>GunAction</name>
+    <message>
+        <source>Shoot Item</source>
+        <translation>Выстрелить объектом</translation>
     </message>
 </context>
 <context>
@@ -976,6 +990,13 @@
 height=%2</source>
         <translation>ширина=%1
 высота=%2</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveAction</name>
+    <message>
+        <source>Remove</source>
+        <translation>Удалить</translation>
     </message>
 </context>
 <context>

@@ -15,8 +15,10 @@
 #include "Tools/DifferenceAction.h"
 #include "Tools/DistanceJointAction.h"
 #include "Tools/EraseAction.h"
+#include "Tools/ExplodeAction.h"
 #include "Tools/GearAction.h"
 #include "Tools/GraphicsViewAction.h"
+#include "Tools/GunAction.h"
 #include "Tools/ImageAction.h"
 #include "Tools/IntersectionAction.h"
 #include "Tools/PlayPauseAction.h"
@@ -24,6 +26,7 @@
 #include "Tools/PrismaticJointAction.h"
 #include "Tools/PulleyJointAction.h"
 #include "Tools/RectangleAction.h"
+#include "Tools/RemoveAction.h"
 #include "Tools/RevoluteJointAction.h"
 #include "Tools/RopeAction.h"
 #include "Tools/SelectAction.h"
@@ -185,9 +188,9 @@ MainWindow::actionRows()
          "mousePointer", none, 0, &MainWindow::makeTool<SelectAction>, nullptr},
         {Id::Remove, QT_TR_NOOP("Remove"),
          QT_TR_NOOP("Removes an item or a selection of items from the scene"), "remove", none, 0,
-         &MainWindow::makeUnavailableTool, nullptr},
+         &MainWindow::makeTool<RemoveAction>, nullptr},
         {Id::Explode, QT_TR_NOOP("Explode Item"), QT_TR_NOOP("Explodes an item"), "bomb", none, 0,
-         &MainWindow::makeUnavailableTool, nullptr},
+         &MainWindow::makeTool<ExplodeAction>, nullptr},
         {Id::Erase, QT_TR_NOOP("Erase Item"), QT_TR_NOOP("Erases parts of an item"), "eraser", none,
          0, &MainWindow::makeTool<EraseAction>, nullptr},
         {Id::Camera, QT_TR_NOOP("Create Camera"),
@@ -198,7 +201,7 @@ MainWindow::actionRows()
          QT_TR_NOOP("Creates a tracer that follows an item"), "tracer", none, 0,
          &MainWindow::makeUnavailableTool, nullptr},
         {Id::Gun, QT_TR_NOOP("Shoot Item"), QT_TR_NOOP("Shoots an item"), "gun", none, 0,
-         &MainWindow::makeUnavailableTool, nullptr},
+         &MainWindow::makeTool<GunAction>, nullptr},
         {Id::Plot, QT_TR_NOOP("Create Plot"), QT_TR_NOOP("Creates a plot for a given item"),
          "graph", none, 0, &MainWindow::makeUnavailableTool, nullptr},
         {Id::Rectangle, QT_TR_NOOP("Create Rectangle"), QT_TR_NOOP("Creates a rectangle"),

@@ -178,14 +178,14 @@ private slots:
             true);
         row(Id::Select, "Select/Move", "Selects and/or moves an item", "mousePointer", Key(), true);
         row(Id::Remove, "Remove", "Removes an item or a selection of items from the scene",
-            "remove", Key(), false);
-        row(Id::Explode, "Explode Item", "Explodes an item", "bomb", Key(), false);
+            "remove", Key(), true);
+        row(Id::Explode, "Explode Item", "Explodes an item", "bomb", Key(), true);
         row(Id::Erase, "Erase Item", "Erases parts of an item", "eraser", Key(), true);
         row(Id::Camera, "Create Camera", "Creates a camera that follows an item", "camera", Key(),
             false);
         row(Id::Tracer, "Create Tracer", "Creates a tracer that follows an item", "tracer", Key(),
             false);
-        row(Id::Gun, "Shoot Item", "Shoots an item", "gun", Key(), false);
+        row(Id::Gun, "Shoot Item", "Shoots an item", "gun", Key(), true);
         row(Id::Plot, "Create Plot", "Creates a plot for a given item", "graph", Key(), false);
         row(Id::Rectangle, "Create Rectangle", "Creates a rectangle", "rectangle", Key(), true);
         row(Id::Circle, "Create Circle", "Creates a circle", "circle", Key(), true);
