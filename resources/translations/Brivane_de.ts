@@ -178,6 +178,13 @@
     </message>
 </context>
 <context>
+    <name>CameraAction</name>
+    <message>
+        <source>Create Camera</source>
+        <translation>Kamera erstellen</translation>
+    </message>
+</context>
+<context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
@@ -797,6 +804,32 @@
     <message>
         <source>Play/Pause</source>
         <translation>Start/Pause</translation>
+    </message>
+</context>
+<context>
+    <name>PlotAction</name>
+    <message>
+        <source>Create Plot</source>
+        <translation>Diagramm erstellen</translation>
+    </message>
+</context>
+<context>
+    <name>PlotWidget</name>
+    <message>
+        <source>Speed</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Acceleration</source>
+        <translation>Beschleunigung</translation>
+    </message>
+    <message>
+        <source>Time (sec)</source>
+        <translation>Zeit (s)</translation>
+    </message>
+    <message>
+        <source>Speed (m/sec)</source>
+        <translation>Geschwindigkeit (m/s)</translation>
     </message>
 </context>
 <context>

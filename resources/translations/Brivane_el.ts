@@ -178,6 +178,13 @@
     </message>
 </context>
 <context>
+    <name>CameraAction</name>
+    <message>
+        <source>Create Camera</source>
+        <translation>Δημιουργία κάμερας</translation>
+    </message>
+</context>
+<context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
@@ -797,6 +804,32 @@
     <message>
         <source>Play/Pause</source>
         <translation>Έναρξη/Παύση</translation>
+    </message>
+</context>
+<context>
+    <name>PlotAction</name>
+    <message>
+        <source>Create Plot</source>
+        <translation>Δημιουργία γραφήματος</translation>
+    </message>
+</context>
+<context>
+    <name>PlotWidget</name>
+    <message>
+        <source>Speed</source>
+        <translation>Ταχύτητα</translation>
+    </message>
+    <message>
+        <source>Acceleration</source>
+        <translation>Επιτάχυνση</translation>
+    </message>
+    <message>
+        <source>Time (sec)</source>
+        <translation>Χρόνος (s)</translation>
+    </message>
+    <message>
+        <source>Speed (m/sec)</source>
+        <translation>Ταχύτητα (m/s)</translation>
     </message>
 </context>
 <context>

@@ -178,6 +178,13 @@
     </message>
 </context>
 <context>
+    <name>CameraAction</name>
+    <message>
+        <source>Create Camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
@@ -794,6 +801,32 @@
     <name>PlayPauseAction</name>
     <message>
         <source>Play/Pause</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PlotAction</name>
+    <message>
+        <source>Create Plot</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PlotWidget</name>
+    <message>
+        <source>Speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Acceleration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time (sec)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed (m/sec)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

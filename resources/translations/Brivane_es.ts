@@ -178,6 +178,13 @@
     </message>
 </context>
 <context>
+    <name>CameraAction</name>
+    <message>
+        <source>Create Camera</source>
+        <translation>Crear cámara</translation>
+    </message>
+</context>
+<context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
@@ -797,6 +804,32 @@
     <message>
         <source>Play/Pause</source>
         <translation>Iniciar/Pausar</translation>
+    </message>
+</context>
+<context>
+    <name>PlotAction</name>
+    <message>
+        <source>Create Plot</source>
+        <translation>Crear gráfica</translation>
+    </message>
+</context>
+<context>
+    <name>PlotWidget</name>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Acceleration</source>
+        <translation>Aceleración</translation>
+    </message>
+    <message>
+        <source>Time (sec)</source>
+        <translation>Tiempo (s)</translation>
+    </message>
+    <message>
+        <source>Speed (m/sec)</source>
+        <translation>Velocidad (m/s)</translation>
     </message>
 </context>
 <context>

@@ -178,6 +178,13 @@
     </message>
 </context>
 <context>
+    <name>CameraAction</name>
+    <message>
+        <source>Create Camera</source>
+        <translation>Créer une caméra</translation>
+    </message>
+</context>
+<context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
@@ -797,6 +804,32 @@
     <message>
         <source>Play/Pause</source>
         <translation>Lecture/Pause</translation>
+    </message>
+</context>
+<context>
+    <name>PlotAction</name>
+    <message>
+        <source>Create Plot</source>
+        <translation>Créer un graphique</translation>
+    </message>
+</context>
+<context>
+    <name>PlotWidget</name>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Acceleration</source>
+        <translation>Accélération</translation>
+    </message>
+    <message>
+        <source>Time (sec)</source>
+        <translation>Temps (s)</translation>
+    </message>
+    <message>
+        <source>Speed (m/sec)</source>
+        <translation>Vitesse (m/s)</translation>
     </message>
 </context>
 <context>

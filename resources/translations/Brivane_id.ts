@@ -178,6 +178,13 @@
     </message>
 </context>
 <context>
+    <name>CameraAction</name>
+    <message>
+        <source>Create Camera</source>
+        <translation>Buat Kamera</translation>
+    </message>
+</context>
+<context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
@@ -797,6 +804,32 @@
     <message>
         <source>Play/Pause</source>
         <translation>Jalankan/Jeda</translation>
+    </message>
+</context>
+<context>
+    <name>PlotAction</name>
+    <message>
+        <source>Create Plot</source>
+        <translation>Buat Grafik</translation>
+    </message>
+</context>
+<context>
+    <name>PlotWidget</name>
+    <message>
+        <source>Speed</source>
+        <translation>Kecepatan</translation>
+    </message>
+    <message>
+        <source>Acceleration</source>
+        <translation>Percepatan</translation>
+    </message>
+    <message>
+        <source>Time (sec)</source>
+        <translation>Waktu (detik)</translation>
+    </message>
+    <message>
+        <source>Speed (m/sec)</source>
+        <translation>Kecepatan (m/detik)</translation>
     </message>
 </context>
 <context>

@@ -178,6 +178,13 @@
     </message>
 </context>
 <context>
+    <name>CameraAction</name>
+    <message>
+        <source>Create Camera</source>
+        <translation>Crea telecamera</translation>
+    </message>
+</context>
+<context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
@@ -797,6 +804,32 @@
     <message>
         <source>Play/Pause</source>
         <translation>Avvia/Pausa</translation>
+    </message>
+</context>
+<context>
+    <name>PlotAction</name>
+    <message>
+        <source>Create Plot</source>
+        <translation>Crea grafico</translation>
+    </message>
+</context>
+<context>
+    <name>PlotWidget</name>
+    <message>
+        <source>Speed</source>
+        <translation>Velocità</translation>
+    </message>
+    <message>
+        <source>Acceleration</source>
+        <translation>Accelerazione</translation>
+    </message>
+    <message>
+        <source>Time (sec)</source>
+        <translation>Tempo (s)</translation>
+    </message>
+    <message>
+        <source>Speed (m/sec)</source>
+        <translation>Velocità (m/s)</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,7 @@
 #include "Files/XMLReader.h"
 #include "Files/XMLWriter.h"
 #include "Gui/MainWindow.h"
+#include "Gui/PlotWidget.h"
 #include "NemuToolbox/Toolbox.h"
 #include "Physics/BalloonItem.h"
 #include "Physics/DistanceJoint.h"
@@ -20,6 +21,7 @@
 #include "Physics/SpringForce.h"
 #include "Scripting/ConsoleWidget.h"
 #include "Scripting/ScriptRunner.h"
+#include "View/CameraGraphicsView.h"
 #include "View/GraphicsView.h"
 
 #include <QAction>
@@ -138,6 +140,41 @@ void Application::report(const QString& text, Brivane::ConsoleMessageType messag
 QString Application::temporaryDirectory()
 {
     return QDir::tempPath() + QDir::separator() + applicationName();
+}
+
+namespace {
+// A window of the main window's that floats beside it and goes when closed.
+void showToolWindow(QWidget* window)
+{
+    window->setWindowFlags(Qt::Tool);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->show();
+}
+} // namespace
+
+void Application::createCamera(BodyItem* pItem, Brivane::CameraMode cameraMode)
+{
+    if (!pItem || !mainWindow)
+        return;
+    if (cameraMode == Brivane::MainViewCamera)
+        mainWindow->graphicsView()->setBodyWithCamera(pItem);
+    else if (cameraMode == Brivane::WindowCamera)
+        showToolWindow(new CameraGraphicsView(pItem, mainWindow));
+}
+
+void Application::removeAllCameras()
+{
+    if (!mainWindow)
+        return;
+    for (CameraGraphicsView* camera : mainWindow->findChildren<CameraGraphicsView*>())
+        camera->close();
+    mainWindow->graphicsView()->setBodyWithCamera(static_cast<BodyItem*>(nullptr));
+}
+
+void Application::createPlot(BodyItem* pItem)
+{
+    if (pItem && mainWindow)
+        showToolWindow(new PlotWidget(pItem, PhysicsWorld::instance(), mainWindow));
 }
 
 QString Application::dataDirectory(const QString& name)

@@ -9,6 +9,7 @@
 #include <QScriptValue>
 #include <QStringList>
 
+class BodyItem;
 class MainWindow;
 class QScriptEngineDebugger;
 class ScriptRunner;
@@ -94,6 +95,11 @@ signals:
     void fileSaved(QString filename);
     void fileLoaded(QString filename);
 
+public:
+    // Follows the body with the main view, or with a window of its own; other modes do
+    // nothing.
+    void createCamera(BodyItem* pItem, Brivane::CameraMode cameraMode);
+
 public slots:
     void setLanguage(QLocale::Language language);
     QLocale::Language language();
@@ -114,6 +120,10 @@ public slots:
     bool isOpenGLVersionSupported(QString version);
     // Aborts the script under way, if any.
     void stopScript();
+    // Ends every camera: closes the camera windows, and the main view stops following.
+    void removeAllCameras();
+    // Opens one more plot window of the body's speed.
+    void createPlot(BodyItem* pItem);
 
 protected slots:
     void postInitialise();

@@ -10,6 +10,7 @@
 #include "Tools/ActionContextToolBar.h"
 #include "Tools/BalloonAction.h"
 #include "Tools/BrushAction.h"
+#include "Tools/CameraAction.h"
 #include "Tools/ChainAction.h"
 #include "Tools/CircleAction.h"
 #include "Tools/DifferenceAction.h"
@@ -22,6 +23,7 @@
 #include "Tools/ImageAction.h"
 #include "Tools/IntersectionAction.h"
 #include "Tools/PlayPauseAction.h"
+#include "Tools/PlotAction.h"
 #include "Tools/PolygonAction.h"
 #include "Tools/PrismaticJointAction.h"
 #include "Tools/PulleyJointAction.h"
@@ -195,7 +197,7 @@ MainWindow::actionRows()
          0, &MainWindow::makeTool<EraseAction>, nullptr},
         {Id::Camera, QT_TR_NOOP("Create Camera"),
          QT_TR_NOOP("Creates a camera that follows an item"), "camera", none, 0,
-         &MainWindow::makeUnavailableTool, nullptr},
+         &MainWindow::makeTool<CameraAction>, nullptr},
         // Stays disabled for good, also once its class exists.
         {Id::Tracer, QT_TR_NOOP("Create Tracer"),
          QT_TR_NOOP("Creates a tracer that follows an item"), "tracer", none, 0,
@@ -203,7 +205,7 @@ MainWindow::actionRows()
         {Id::Gun, QT_TR_NOOP("Shoot Item"), QT_TR_NOOP("Shoots an item"), "gun", none, 0,
          &MainWindow::makeTool<GunAction>, nullptr},
         {Id::Plot, QT_TR_NOOP("Create Plot"), QT_TR_NOOP("Creates a plot for a given item"),
-         "graph", none, 0, &MainWindow::makeUnavailableTool, nullptr},
+         "graph", none, 0, &MainWindow::makeTool<PlotAction>, nullptr},
         {Id::Rectangle, QT_TR_NOOP("Create Rectangle"), QT_TR_NOOP("Creates a rectangle"),
          "rectangle", none, 0, &MainWindow::makeTool<RectangleAction>, nullptr},
         {Id::Circle, QT_TR_NOOP("Create Circle"), QT_TR_NOOP("Creates a circle"), "circle", none, 0,

@@ -109,16 +109,23 @@ void GraphicsView::chooseViewport()
 {
     if (!Settings::instance()->useOpenGL)
         return;
-    if (Application::canCreateOpenGLContext()) {
-        auto* glWidget = new QGLWidget(QGLFormat(QGL::SampleBuffers));
-        if (glWidget->isValid()) {
-            setViewport(glWidget);
-            return;
-        }
-        delete glWidget;
+    if (QWidget* glViewport = openGLViewport()) {
+        setViewport(glViewport);
+        return;
     }
     Application::report(tr("OpenGL is not available here; the view draws without it."),
                         Brivane::Warning);
+}
+
+QWidget* GraphicsView::openGLViewport()
+{
+    if (!Application::canCreateOpenGLContext())
+        return nullptr;
+    auto* glWidget = new QGLWidget(QGLFormat(QGL::SampleBuffers));
+    if (glWidget->isValid())
+        return glWidget;
+    delete glWidget;
+    return nullptr;
 }
 
 QString GraphicsView::bodyWithCamera() const

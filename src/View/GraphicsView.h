@@ -34,6 +34,8 @@ public:
 
     // The name of the body that the view follows, empty if none.
     QString bodyWithCamera() const;
+    // A multisampling OpenGL viewport, or null where no working context can be made.
+    static QWidget* openGLViewport();
     double scale() const;
     QRectF visibleSceneRect() const;
 

@@ -182,11 +182,11 @@ private slots:
         row(Id::Explode, "Explode Item", "Explodes an item", "bomb", Key(), true);
         row(Id::Erase, "Erase Item", "Erases parts of an item", "eraser", Key(), true);
         row(Id::Camera, "Create Camera", "Creates a camera that follows an item", "camera", Key(),
-            false);
+            true);
         row(Id::Tracer, "Create Tracer", "Creates a tracer that follows an item", "tracer", Key(),
             false);
         row(Id::Gun, "Shoot Item", "Shoots an item", "gun", Key(), true);
-        row(Id::Plot, "Create Plot", "Creates a plot for a given item", "graph", Key(), false);
+        row(Id::Plot, "Create Plot", "Creates a plot for a given item", "graph", Key(), true);
         row(Id::Rectangle, "Create Rectangle", "Creates a rectangle", "rectangle", Key(), true);
         row(Id::Circle, "Create Circle", "Creates a circle", "circle", Key(), true);
         row(Id::Polygon, "Create Polygon", "Creates a polygon", "polygon", Key(), true);

@@ -1,9 +1,11 @@
 #include "Application/Application.h"
 #include "Gui/MainWindow.h"
+#include "Gui/PlotWidget.h"
 #include "Gui/PropertyEditorWidget.h"
 #include "Gui/QPropertyEditorWidget.h"
 #include "Physics/PhysicsWorld.h"
 #include "Physics/RectangleItem.h"
+#include "View/CameraGraphicsView.h"
 #include "View/GraphicsView.h"
 
 #include <QDir>
@@ -20,6 +22,8 @@ namespace {
 // The saved pictures, under the working directory of the tests.
 const char* const artifactPath = "artifacts/mainwindow.png";
 const char* const propertyEditorArtifactPath = "artifacts/propertyeditor.png";
+const char* const cameraArtifactPath = "artifacts/camera.png";
+const char* const plotArtifactPath = "artifacts/plot.png";
 
 void saveArtifact(const QImage& image, const char* path)
 {
@@ -112,6 +116,39 @@ private slots:
         saveArtifact(screenshot().copy(area), propertyEditorArtifactPath);
         box->graphicsItem()->setSelected(false);
         PhysicsWorld::instance()->removePhysicsItem(box);
+    }
+
+    // A camera window and a plot window over the running scene, as the screen shows them:
+    // the camera follows a falling body, the plot draws its speed.
+    void cameraAndPlotWindowsFollowTheWorld()
+    {
+        PhysicsWorld* world = PhysicsWorld::instance();
+        RectangleItem* box = world->createRectangle(2, 8, 0, 1, 1);
+        box->setBrush(QColor(200, 40, 40));
+        Application::instance()->createCamera(box, Brivane::WindowCamera);
+        Application::instance()->createPlot(box);
+        auto* camera = window()->findChild<CameraGraphicsView*>();
+        auto* plot = window()->findChild<PlotWidget*>();
+        QVERIFY(QTest::qWaitForWindowExposed(camera) && QTest::qWaitForWindowExposed(plot));
+        // Side by side, so that neither hides the other on the screen.
+        camera->move(100, 100);
+        plot->move(100 + camera->frameGeometry().width() + 20, 100);
+        world->start();
+        QTRY_VERIFY_WITH_TIMEOUT(plot->speedSamples().size() > 30, 5000);
+        world->stop();
+        QVERIFY(plot->speedSamples().last().y() > 1.0);
+        QCoreApplication::processEvents();
+        saveArtifact(camera->screen()->grabWindow(camera->winId()).toImage(), cameraArtifactPath);
+        saveArtifact(plot->screen()->grabWindow(plot->winId()).toImage(), plotArtifactPath);
+        // The camera keeps the body in its middle.
+        QTRY_COMPARE_WITH_TIMEOUT(QColor(camera->screen()
+                                             ->grabWindow(camera->winId())
+                                             .toImage()
+                                             .pixel(camera->rect().center())),
+                                  QColor(200, 40, 40), 5000);
+        Application::instance()->removeAllCameras();
+        plot->close();
+        world->removePhysicsItem(box);
     }
 
     void windowIsMaximisedOnFirstRun()
