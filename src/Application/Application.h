@@ -41,6 +41,9 @@ public:
     static QString temporaryDirectory();
     // A folder of the data beside the executable, such as "saves" or "textures".
     static QString dataDirectory(const QString& name);
+    // Follows the body with the main view, or with a window of its own; other modes do
+    // nothing.
+    void createCamera(BodyItem* pItem, Brivane::CameraMode cameraMode);
 
     // Second stage of start-up: the main window, its layout, the script engine.
     void initialise();
@@ -94,11 +97,6 @@ signals:
     void fileCreated();
     void fileSaved(QString filename);
     void fileLoaded(QString filename);
-
-public:
-    // Follows the body with the main view, or with a window of its own; other modes do
-    // nothing.
-    void createCamera(BodyItem* pItem, Brivane::CameraMode cameraMode);
 
 public slots:
     void setLanguage(QLocale::Language language);

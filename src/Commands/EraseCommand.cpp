@@ -8,6 +8,7 @@
 #include "Physics/PrismaticJoint.h"
 #include "Physics/RevoluteJoint.h"
 
+#include <QGraphicsItem>
 #include <QObject>
 #include <QSet>
 
@@ -28,8 +29,10 @@ EraseCommand::EraseCommand(const QPolygonF& eraser, QUndoCommand* parent)
 {
     PhysicsWorld* world = PhysicsWorld::instance();
     QList<BodyItem*> cutBodies;
+    const QRectF reach = eraser.boundingRect();
     for (BodyItem* body : world->bodyItems()) {
-        if (!body->isActive())
+        // Most bodies of a large scene lie far from the stroke: spare them the path arithmetic.
+        if (!body->isActive() || !body->graphicsItem()->sceneBoundingRect().intersects(reach))
             continue;
         const QPolygonF outline = body->worldPolygon();
         if (outline.isEmpty() || !cutsPart(outline, eraser))

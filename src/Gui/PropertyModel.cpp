@@ -152,21 +152,22 @@ QVariant PropertyModel::data(const QModelIndex& index, int role) const
             keys << QString::fromLatin1(enumerator.key(i));
         return keys;
     }
+    // Painting asks for many roles; only these need the value, read from the object each time.
+    if (role != Qt::DisplayRole && role != Qt::EditRole && role != Qt::CheckStateRole
+        && role != Qt::DecorationRole)
+        return {};
     const QVariant value = meta->read(shown);
     const bool isBool = meta->userType() == QMetaType::Bool;
     switch (role) {
     case Qt::DisplayRole:
         return isBool ? QVariant() : displayText(*meta, value, attributes(index));
     case Qt::EditRole:
-        if (meta->isEnumType())
-            return QString::fromLatin1(meta->enumerator().valueToKey(value.toInt()));
-        return value;
+        // Enumerations are edited by their keys.
+        return meta->isEnumType() ? QVariant(displayText(*meta, value, {})) : value;
     case Qt::CheckStateRole:
         return isBool ? (value.toBool() ? Qt::Checked : Qt::Unchecked) : QVariant();
-    case Qt::DecorationRole:
-        return meta->userType() == QMetaType::QColor ? value : QVariant();
     default:
-        return {};
+        return meta->userType() == QMetaType::QColor ? value : QVariant();
     }
 }
 
