@@ -63,6 +63,13 @@
     </message>
 </context>
 <context>
+    <name>BrushContextWidget</name>
+    <message>
+        <source>Brush Size</source>
+        <translation>Pinselgröße</translation>
+    </message>
+</context>
+<context>
     <name>BrushDialog</name>
     <message>
         <source>Select Brush</source>
@@ -185,10 +192,36 @@
     </message>
 </context>
 <context>
+    <name>CameraContextWidget</name>
+    <message>
+        <source>Camera Mode</source>
+        <translation>Kameramodus</translation>
+    </message>
+    <message>
+        <source>Remove All Cameras</source>
+        <translation>Alle Kameras entfernen</translation>
+    </message>
+    <message>
+        <source>Use Default Viewport</source>
+        <translation>Hauptansicht verwenden</translation>
+    </message>
+    <message>
+        <source>Create New Viewport</source>
+        <translation>Neue Ansicht erstellen</translation>
+    </message>
+</context>
+<context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
         <translation>Kette erstellen</translation>
+    </message>
+</context>
+<context>
+    <name>ChainContextWidget</name>
+    <message>
+        <source>Circle Radius</source>
+        <translation>Kreisradius</translation>
     </message>
 </context>
 <context>
@@ -200,6 +233,17 @@
     <message>
         <source>radius=%1</source>
         <translation>Radius=%1</translation>
+    </message>
+</context>
+<context>
+    <name>ColorContextWidget</name>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Wählen...</translation>
     </message>
 </context>
 <context>
@@ -224,6 +268,13 @@
     </message>
 </context>
 <context>
+    <name>EraseContextWidget</name>
+    <message>
+        <source>Eraser Size</source>
+        <translation>Radierergröße</translation>
+    </message>
+</context>
+<context>
     <name>ExplodeAction</name>
     <message>
         <source>Explode Item</source>
@@ -231,10 +282,48 @@
     </message>
 </context>
 <context>
+    <name>ExplodeContextWidget</name>
+    <message>
+        <source>Explode Method</source>
+        <translation>Zerlegungsart</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Triangulate</source>
+        <translation>In Dreiecke zerlegen</translation>
+    </message>
+    <message>
+        <source>Squarify</source>
+        <translation>In Quadrate zerlegen</translation>
+    </message>
+    <message>
+        <source>Circlify</source>
+        <translation>In Kreise zerlegen</translation>
+    </message>
+</context>
+<context>
     <name>GearAction</name>
     <message>
         <source>Create Gear</source>
         <translation>Zahnrad erstellen</translation>
+    </message>
+</context>
+<context>
+    <name>GearContextWidget</name>
+    <message>
+        <source>Gear Tooth Size</source>
+        <translation>Zahngröße</translation>
+    </message>
+    <message>
+        <source>Gear Tooth Count Divisor</source>
+        <translation>Teiler der Zahnanzahl</translation>
+    </message>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>Drehgelenk erstellen</translation>
     </message>
 </context>
 <context>
@@ -263,6 +352,33 @@
     </message>
 </context>
 <context>
+    <name>ImageContextWidget</name>
+    <message>
+        <source>Image</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Wählen...</translation>
+    </message>
+    <message>
+        <source>Polygon Threshold</source>
+        <translation>Polygon-Schwelle</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Maßstab</translation>
+    </message>
+    <message>
+        <source>Select Image</source>
+        <translation>Bild wählen</translation>
+    </message>
+    <message>
+        <source>Images (*.png *.xpm *.jpg)</source>
+        <translation>Bilder (*.png *.xpm *.jpg)</translation>
+    </message>
+</context>
+<context>
     <name>IntersectionAction</name>
     <message>
         <source>Intersection</source>
@@ -286,6 +402,29 @@
         <translation>
 
 [Zeile: %1, Spalte: %2]</translation>
+    </message>
+</context>
+<context>
+    <name>LinkContextWidget</name>
+    <message>
+        <source>Attach Point</source>
+        <translation>Befestigung</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>Beide</translation>
     </message>
 </context>
 <context>
@@ -1040,10 +1179,24 @@ Höhe=%2</translation>
     </message>
 </context>
 <context>
+    <name>RevoluteJointContextWidget</name>
+    <message>
+        <source>Radius</source>
+        <translation>Radius</translation>
+    </message>
+</context>
+<context>
     <name>RopeAction</name>
     <message>
         <source>Create Rope</source>
         <translation>Seil erstellen</translation>
+    </message>
+</context>
+<context>
+    <name>RopeContextWidget</name>
+    <message>
+        <source>Rectangle Width</source>
+        <translation>Rechteckbreite</translation>
     </message>
 </context>
 <context>
@@ -1058,6 +1211,17 @@ Höhe=%2</translation>
     <message>
         <source>Create Spring</source>
         <translation>Feder erstellen</translation>
+    </message>
+</context>
+<context>
+    <name>SpringForceContextWidget</name>
+    <message>
+        <source>K</source>
+        <translation>K</translation>
+    </message>
+    <message>
+        <source>Damping</source>
+        <translation>Dämpfung</translation>
     </message>
 </context>
 <context>
@@ -1080,6 +1244,21 @@ Höhe=%2</translation>
     <message>
         <source>Create Text</source>
         <translation>Text erstellen</translation>
+    </message>
+</context>
+<context>
+    <name>TextContextWidget</name>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Font Family</source>
+        <translation>Schriftart</translation>
+    </message>
+    <message>
+        <source>Font Size</source>
+        <translation>Schriftgröße</translation>
     </message>
 </context>
 <context>

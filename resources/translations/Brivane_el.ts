@@ -63,6 +63,13 @@
     </message>
 </context>
 <context>
+    <name>BrushContextWidget</name>
+    <message>
+        <source>Brush Size</source>
+        <translation>Μέγεθος πινέλου</translation>
+    </message>
+</context>
+<context>
     <name>BrushDialog</name>
     <message>
         <source>Select Brush</source>
@@ -185,10 +192,36 @@
     </message>
 </context>
 <context>
+    <name>CameraContextWidget</name>
+    <message>
+        <source>Camera Mode</source>
+        <translation>Λειτουργία κάμερας</translation>
+    </message>
+    <message>
+        <source>Remove All Cameras</source>
+        <translation>Αφαίρεση όλων των καμερών</translation>
+    </message>
+    <message>
+        <source>Use Default Viewport</source>
+        <translation>Χρήση κύριας προβολής</translation>
+    </message>
+    <message>
+        <source>Create New Viewport</source>
+        <translation>Δημιουργία νέας προβολής</translation>
+    </message>
+</context>
+<context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
         <translation>Δημιουργία αλυσίδας</translation>
+    </message>
+</context>
+<context>
+    <name>ChainContextWidget</name>
+    <message>
+        <source>Circle Radius</source>
+        <translation>Ακτίνα κύκλου</translation>
     </message>
 </context>
 <context>
@@ -200,6 +233,17 @@
     <message>
         <source>radius=%1</source>
         <translation>ακτίνα=%1</translation>
+    </message>
+</context>
+<context>
+    <name>ColorContextWidget</name>
+    <message>
+        <source>Color</source>
+        <translation>Χρώμα</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Επιλογή...</translation>
     </message>
 </context>
 <context>
@@ -224,6 +268,13 @@
     </message>
 </context>
 <context>
+    <name>EraseContextWidget</name>
+    <message>
+        <source>Eraser Size</source>
+        <translation>Μέγεθος γόμας</translation>
+    </message>
+</context>
+<context>
     <name>ExplodeAction</name>
     <message>
         <source>Explode Item</source>
@@ -231,10 +282,48 @@
     </message>
 </context>
 <context>
+    <name>ExplodeContextWidget</name>
+    <message>
+        <source>Explode Method</source>
+        <translation>Μέθοδος διάσπασης</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Μέγεθος</translation>
+    </message>
+    <message>
+        <source>Triangulate</source>
+        <translation>Σε τρίγωνα</translation>
+    </message>
+    <message>
+        <source>Squarify</source>
+        <translation>Σε τετράγωνα</translation>
+    </message>
+    <message>
+        <source>Circlify</source>
+        <translation>Σε κύκλους</translation>
+    </message>
+</context>
+<context>
     <name>GearAction</name>
     <message>
         <source>Create Gear</source>
         <translation>Δημιουργία γραναζιού</translation>
+    </message>
+</context>
+<context>
+    <name>GearContextWidget</name>
+    <message>
+        <source>Gear Tooth Size</source>
+        <translation>Μέγεθος δοντιού</translation>
+    </message>
+    <message>
+        <source>Gear Tooth Count Divisor</source>
+        <translation>Διαιρέτης πλήθους δοντιών</translation>
+    </message>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>Δημιουργία περιστροφικής άρθρωσης</translation>
     </message>
 </context>
 <context>
@@ -263,6 +352,33 @@
     </message>
 </context>
 <context>
+    <name>ImageContextWidget</name>
+    <message>
+        <source>Image</source>
+        <translation>Εικόνα</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Επιλογή...</translation>
+    </message>
+    <message>
+        <source>Polygon Threshold</source>
+        <translation>Κατώφλι πολυγώνου</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Κλίμακα</translation>
+    </message>
+    <message>
+        <source>Select Image</source>
+        <translation>Επιλογή εικόνας</translation>
+    </message>
+    <message>
+        <source>Images (*.png *.xpm *.jpg)</source>
+        <translation>Εικόνες (*.png *.xpm *.jpg)</translation>
+    </message>
+</context>
+<context>
     <name>IntersectionAction</name>
     <message>
         <source>Intersection</source>
@@ -286,6 +402,29 @@
         <translation>
 
 [Γραμμή: %1, Στήλη: %2]</translation>
+    </message>
+</context>
+<context>
+    <name>LinkContextWidget</name>
+    <message>
+        <source>Attach Point</source>
+        <translation>Σημείο στερέωσης</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>Αρχή</translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation>Τέλος</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Κανένα</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>Και τα δύο</translation>
     </message>
 </context>
 <context>
@@ -1040,10 +1179,24 @@ height=%2</source>
     </message>
 </context>
 <context>
+    <name>RevoluteJointContextWidget</name>
+    <message>
+        <source>Radius</source>
+        <translation>Ακτίνα</translation>
+    </message>
+</context>
+<context>
     <name>RopeAction</name>
     <message>
         <source>Create Rope</source>
         <translation>Δημιουργία σχοινιού</translation>
+    </message>
+</context>
+<context>
+    <name>RopeContextWidget</name>
+    <message>
+        <source>Rectangle Width</source>
+        <translation>Πλάτος ορθογωνίου</translation>
     </message>
 </context>
 <context>
@@ -1058,6 +1211,17 @@ height=%2</source>
     <message>
         <source>Create Spring</source>
         <translation>Δημιουργία ελατηρίου</translation>
+    </message>
+</context>
+<context>
+    <name>SpringForceContextWidget</name>
+    <message>
+        <source>K</source>
+        <translation>K</translation>
+    </message>
+    <message>
+        <source>Damping</source>
+        <translation>Απόσβεση</translation>
     </message>
 </context>
 <context>
@@ -1080,6 +1244,21 @@ height=%2</source>
     <message>
         <source>Create Text</source>
         <translation>Δημιουργία κειμένου</translation>
+    </message>
+</context>
+<context>
+    <name>TextContextWidget</name>
+    <message>
+        <source>Text</source>
+        <translation>Κείμενο</translation>
+    </message>
+    <message>
+        <source>Font Family</source>
+        <translation>Γραμματοσειρά</translation>
+    </message>
+    <message>
+        <source>Font Size</source>
+        <translation>Μέγεθος γραμματοσειράς</translation>
     </message>
 </context>
 <context>

@@ -63,6 +63,13 @@
     </message>
 </context>
 <context>
+    <name>BrushContextWidget</name>
+    <message>
+        <source>Brush Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>BrushDialog</name>
     <message>
         <source>Select Brush</source>
@@ -185,9 +192,35 @@
     </message>
 </context>
 <context>
+    <name>CameraContextWidget</name>
+    <message>
+        <source>Camera Mode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove All Cameras</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use Default Viewport</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create New Viewport</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ChainContextWidget</name>
+    <message>
+        <source>Circle Radius</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -199,6 +232,17 @@
     </message>
     <message>
         <source>radius=%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ColorContextWidget</name>
+    <message>
+        <source>Color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select...</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -224,6 +268,13 @@
     </message>
 </context>
 <context>
+    <name>EraseContextWidget</name>
+    <message>
+        <source>Eraser Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ExplodeAction</name>
     <message>
         <source>Explode Item</source>
@@ -231,9 +282,47 @@
     </message>
 </context>
 <context>
+    <name>ExplodeContextWidget</name>
+    <message>
+        <source>Explode Method</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Triangulate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Squarify</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Circlify</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>GearAction</name>
     <message>
         <source>Create Gear</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>GearContextWidget</name>
+    <message>
+        <source>Gear Tooth Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gear Tooth Count Divisor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create Revolute Joint</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -263,6 +352,33 @@
     </message>
 </context>
 <context>
+    <name>ImageContextWidget</name>
+    <message>
+        <source>Image</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Polygon Threshold</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select Image</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Images (*.png *.xpm *.jpg)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>IntersectionAction</name>
     <message>
         <source>Intersection</source>
@@ -283,6 +399,29 @@
         <source>
 
 [Line: %1, Column: %2]</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LinkContextWidget</name>
+    <message>
+        <source>Attach Point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Both</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1037,9 +1176,23 @@ height=%2</source>
     </message>
 </context>
 <context>
+    <name>RevoluteJointContextWidget</name>
+    <message>
+        <source>Radius</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>RopeAction</name>
     <message>
         <source>Create Rope</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RopeContextWidget</name>
+    <message>
+        <source>Rectangle Width</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1054,6 +1207,17 @@ height=%2</source>
     <name>SpringForceAction</name>
     <message>
         <source>Create Spring</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SpringForceContextWidget</name>
+    <message>
+        <source>K</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Damping</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1076,6 +1240,21 @@ height=%2</source>
     <name>TextAction</name>
     <message>
         <source>Create Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TextContextWidget</name>
+    <message>
+        <source>Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Font Family</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Font Size</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

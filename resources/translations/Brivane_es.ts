@@ -63,6 +63,13 @@
     </message>
 </context>
 <context>
+    <name>BrushContextWidget</name>
+    <message>
+        <source>Brush Size</source>
+        <translation>Tamaño del pincel</translation>
+    </message>
+</context>
+<context>
     <name>BrushDialog</name>
     <message>
         <source>Select Brush</source>
@@ -185,10 +192,36 @@
     </message>
 </context>
 <context>
+    <name>CameraContextWidget</name>
+    <message>
+        <source>Camera Mode</source>
+        <translation>Modo de cámara</translation>
+    </message>
+    <message>
+        <source>Remove All Cameras</source>
+        <translation>Quitar todas las cámaras</translation>
+    </message>
+    <message>
+        <source>Use Default Viewport</source>
+        <translation>Usar la vista principal</translation>
+    </message>
+    <message>
+        <source>Create New Viewport</source>
+        <translation>Crear una vista nueva</translation>
+    </message>
+</context>
+<context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
         <translation>Crear cadena</translation>
+    </message>
+</context>
+<context>
+    <name>ChainContextWidget</name>
+    <message>
+        <source>Circle Radius</source>
+        <translation>Radio del círculo</translation>
     </message>
 </context>
 <context>
@@ -200,6 +233,17 @@
     <message>
         <source>radius=%1</source>
         <translation>radio=%1</translation>
+    </message>
+</context>
+<context>
+    <name>ColorContextWidget</name>
+    <message>
+        <source>Color</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Seleccionar...</translation>
     </message>
 </context>
 <context>
@@ -224,6 +268,13 @@
     </message>
 </context>
 <context>
+    <name>EraseContextWidget</name>
+    <message>
+        <source>Eraser Size</source>
+        <translation>Tamaño del borrador</translation>
+    </message>
+</context>
+<context>
     <name>ExplodeAction</name>
     <message>
         <source>Explode Item</source>
@@ -231,10 +282,48 @@
     </message>
 </context>
 <context>
+    <name>ExplodeContextWidget</name>
+    <message>
+        <source>Explode Method</source>
+        <translation>Método de explosión</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>Triangulate</source>
+        <translation>Dividir en triángulos</translation>
+    </message>
+    <message>
+        <source>Squarify</source>
+        <translation>Dividir en cuadrados</translation>
+    </message>
+    <message>
+        <source>Circlify</source>
+        <translation>Dividir en círculos</translation>
+    </message>
+</context>
+<context>
     <name>GearAction</name>
     <message>
         <source>Create Gear</source>
         <translation>Crear engranaje</translation>
+    </message>
+</context>
+<context>
+    <name>GearContextWidget</name>
+    <message>
+        <source>Gear Tooth Size</source>
+        <translation>Tamaño del diente</translation>
+    </message>
+    <message>
+        <source>Gear Tooth Count Divisor</source>
+        <translation>Divisor del número de dientes</translation>
+    </message>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>Crear articulación de revolución</translation>
     </message>
 </context>
 <context>
@@ -263,6 +352,33 @@
     </message>
 </context>
 <context>
+    <name>ImageContextWidget</name>
+    <message>
+        <source>Image</source>
+        <translation>Imagen</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Seleccionar...</translation>
+    </message>
+    <message>
+        <source>Polygon Threshold</source>
+        <translation>Umbral del polígono</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Escala</translation>
+    </message>
+    <message>
+        <source>Select Image</source>
+        <translation>Seleccionar imagen</translation>
+    </message>
+    <message>
+        <source>Images (*.png *.xpm *.jpg)</source>
+        <translation>Imágenes (*.png *.xpm *.jpg)</translation>
+    </message>
+</context>
+<context>
     <name>IntersectionAction</name>
     <message>
         <source>Intersection</source>
@@ -286,6 +402,29 @@
         <translation>
 
 [Línea: %1, Columna: %2]</translation>
+    </message>
+</context>
+<context>
+    <name>LinkContextWidget</name>
+    <message>
+        <source>Attach Point</source>
+        <translation>Punto de anclaje</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>Primero</translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation>Último</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>Ambos</translation>
     </message>
 </context>
 <context>
@@ -1040,10 +1179,24 @@ alto=%2</translation>
     </message>
 </context>
 <context>
+    <name>RevoluteJointContextWidget</name>
+    <message>
+        <source>Radius</source>
+        <translation>Radio</translation>
+    </message>
+</context>
+<context>
     <name>RopeAction</name>
     <message>
         <source>Create Rope</source>
         <translation>Crear cuerda</translation>
+    </message>
+</context>
+<context>
+    <name>RopeContextWidget</name>
+    <message>
+        <source>Rectangle Width</source>
+        <translation>Ancho del rectángulo</translation>
     </message>
 </context>
 <context>
@@ -1058,6 +1211,17 @@ alto=%2</translation>
     <message>
         <source>Create Spring</source>
         <translation>Crear resorte</translation>
+    </message>
+</context>
+<context>
+    <name>SpringForceContextWidget</name>
+    <message>
+        <source>K</source>
+        <translation>K</translation>
+    </message>
+    <message>
+        <source>Damping</source>
+        <translation>Amortiguación</translation>
     </message>
 </context>
 <context>
@@ -1080,6 +1244,21 @@ alto=%2</translation>
     <message>
         <source>Create Text</source>
         <translation>Crear texto</translation>
+    </message>
+</context>
+<context>
+    <name>TextContextWidget</name>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Font Family</source>
+        <translation>Tipo de letra</translation>
+    </message>
+    <message>
+        <source>Font Size</source>
+        <translation>Tamaño de letra</translation>
     </message>
 </context>
 <context>

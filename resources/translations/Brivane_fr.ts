@@ -63,6 +63,13 @@
     </message>
 </context>
 <context>
+    <name>BrushContextWidget</name>
+    <message>
+        <source>Brush Size</source>
+        <translation>Taille du pinceau</translation>
+    </message>
+</context>
+<context>
     <name>BrushDialog</name>
     <message>
         <source>Select Brush</source>
@@ -185,10 +192,36 @@
     </message>
 </context>
 <context>
+    <name>CameraContextWidget</name>
+    <message>
+        <source>Camera Mode</source>
+        <translation>Mode caméra</translation>
+    </message>
+    <message>
+        <source>Remove All Cameras</source>
+        <translation>Supprimer toutes les caméras</translation>
+    </message>
+    <message>
+        <source>Use Default Viewport</source>
+        <translation>Utiliser la vue principale</translation>
+    </message>
+    <message>
+        <source>Create New Viewport</source>
+        <translation>Créer une nouvelle vue</translation>
+    </message>
+</context>
+<context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
         <translation>Créer une chaîne</translation>
+    </message>
+</context>
+<context>
+    <name>ChainContextWidget</name>
+    <message>
+        <source>Circle Radius</source>
+        <translation>Rayon du cercle</translation>
     </message>
 </context>
 <context>
@@ -200,6 +233,17 @@
     <message>
         <source>radius=%1</source>
         <translation>rayon=%1</translation>
+    </message>
+</context>
+<context>
+    <name>ColorContextWidget</name>
+    <message>
+        <source>Color</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Choisir...</translation>
     </message>
 </context>
 <context>
@@ -224,6 +268,13 @@
     </message>
 </context>
 <context>
+    <name>EraseContextWidget</name>
+    <message>
+        <source>Eraser Size</source>
+        <translation>Taille de la gomme</translation>
+    </message>
+</context>
+<context>
     <name>ExplodeAction</name>
     <message>
         <source>Explode Item</source>
@@ -231,10 +282,48 @@
     </message>
 </context>
 <context>
+    <name>ExplodeContextWidget</name>
+    <message>
+        <source>Explode Method</source>
+        <translation>Méthode d'explosion</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>Triangulate</source>
+        <translation>Découper en triangles</translation>
+    </message>
+    <message>
+        <source>Squarify</source>
+        <translation>Découper en carrés</translation>
+    </message>
+    <message>
+        <source>Circlify</source>
+        <translation>Découper en cercles</translation>
+    </message>
+</context>
+<context>
     <name>GearAction</name>
     <message>
         <source>Create Gear</source>
         <translation>Créer un engrenage</translation>
+    </message>
+</context>
+<context>
+    <name>GearContextWidget</name>
+    <message>
+        <source>Gear Tooth Size</source>
+        <translation>Taille des dents</translation>
+    </message>
+    <message>
+        <source>Gear Tooth Count Divisor</source>
+        <translation>Diviseur du nombre de dents</translation>
+    </message>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>Créer une liaison pivot</translation>
     </message>
 </context>
 <context>
@@ -263,6 +352,33 @@
     </message>
 </context>
 <context>
+    <name>ImageContextWidget</name>
+    <message>
+        <source>Image</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Choisir...</translation>
+    </message>
+    <message>
+        <source>Polygon Threshold</source>
+        <translation>Seuil du polygone</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Échelle</translation>
+    </message>
+    <message>
+        <source>Select Image</source>
+        <translation>Choisir une image</translation>
+    </message>
+    <message>
+        <source>Images (*.png *.xpm *.jpg)</source>
+        <translation>Images (*.png *.xpm *.jpg)</translation>
+    </message>
+</context>
+<context>
     <name>IntersectionAction</name>
     <message>
         <source>Intersection</source>
@@ -286,6 +402,29 @@
         <translation>
 
 [Ligne : %1, Colonne : %2]</translation>
+    </message>
+</context>
+<context>
+    <name>LinkContextWidget</name>
+    <message>
+        <source>Attach Point</source>
+        <translation>Point d'attache</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>Premier</translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation>Dernier</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>Les deux</translation>
     </message>
 </context>
 <context>
@@ -1040,10 +1179,24 @@ hauteur=%2</translation>
     </message>
 </context>
 <context>
+    <name>RevoluteJointContextWidget</name>
+    <message>
+        <source>Radius</source>
+        <translation>Rayon</translation>
+    </message>
+</context>
+<context>
     <name>RopeAction</name>
     <message>
         <source>Create Rope</source>
         <translation>Créer une corde</translation>
+    </message>
+</context>
+<context>
+    <name>RopeContextWidget</name>
+    <message>
+        <source>Rectangle Width</source>
+        <translation>Largeur du rectangle</translation>
     </message>
 </context>
 <context>
@@ -1058,6 +1211,17 @@ hauteur=%2</translation>
     <message>
         <source>Create Spring</source>
         <translation>Créer un ressort</translation>
+    </message>
+</context>
+<context>
+    <name>SpringForceContextWidget</name>
+    <message>
+        <source>K</source>
+        <translation>K</translation>
+    </message>
+    <message>
+        <source>Damping</source>
+        <translation>Amortissement</translation>
     </message>
 </context>
 <context>
@@ -1080,6 +1244,21 @@ hauteur=%2</translation>
     <message>
         <source>Create Text</source>
         <translation>Créer un texte</translation>
+    </message>
+</context>
+<context>
+    <name>TextContextWidget</name>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Font Family</source>
+        <translation>Police</translation>
+    </message>
+    <message>
+        <source>Font Size</source>
+        <translation>Taille de police</translation>
     </message>
 </context>
 <context>

@@ -63,6 +63,13 @@
     </message>
 </context>
 <context>
+    <name>BrushContextWidget</name>
+    <message>
+        <source>Brush Size</source>
+        <translation>Ukuran kuas</translation>
+    </message>
+</context>
+<context>
     <name>BrushDialog</name>
     <message>
         <source>Select Brush</source>
@@ -185,10 +192,36 @@
     </message>
 </context>
 <context>
+    <name>CameraContextWidget</name>
+    <message>
+        <source>Camera Mode</source>
+        <translation>Mode kamera</translation>
+    </message>
+    <message>
+        <source>Remove All Cameras</source>
+        <translation>Hapus semua kamera</translation>
+    </message>
+    <message>
+        <source>Use Default Viewport</source>
+        <translation>Gunakan tampilan utama</translation>
+    </message>
+    <message>
+        <source>Create New Viewport</source>
+        <translation>Buat tampilan baru</translation>
+    </message>
+</context>
+<context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
         <translation>Buat Rantai</translation>
+    </message>
+</context>
+<context>
+    <name>ChainContextWidget</name>
+    <message>
+        <source>Circle Radius</source>
+        <translation>Jari-jari lingkaran</translation>
     </message>
 </context>
 <context>
@@ -200,6 +233,17 @@
     <message>
         <source>radius=%1</source>
         <translation>jari-jari=%1</translation>
+    </message>
+</context>
+<context>
+    <name>ColorContextWidget</name>
+    <message>
+        <source>Color</source>
+        <translation>Warna</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Pilih...</translation>
     </message>
 </context>
 <context>
@@ -224,6 +268,13 @@
     </message>
 </context>
 <context>
+    <name>EraseContextWidget</name>
+    <message>
+        <source>Eraser Size</source>
+        <translation>Ukuran penghapus</translation>
+    </message>
+</context>
+<context>
     <name>ExplodeAction</name>
     <message>
         <source>Explode Item</source>
@@ -231,10 +282,48 @@
     </message>
 </context>
 <context>
+    <name>ExplodeContextWidget</name>
+    <message>
+        <source>Explode Method</source>
+        <translation>Metode ledakan</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Ukuran</translation>
+    </message>
+    <message>
+        <source>Triangulate</source>
+        <translation>Pecah jadi segitiga</translation>
+    </message>
+    <message>
+        <source>Squarify</source>
+        <translation>Pecah jadi persegi</translation>
+    </message>
+    <message>
+        <source>Circlify</source>
+        <translation>Pecah jadi lingkaran</translation>
+    </message>
+</context>
+<context>
     <name>GearAction</name>
     <message>
         <source>Create Gear</source>
         <translation>Buat Roda Gigi</translation>
+    </message>
+</context>
+<context>
+    <name>GearContextWidget</name>
+    <message>
+        <source>Gear Tooth Size</source>
+        <translation>Ukuran gigi</translation>
+    </message>
+    <message>
+        <source>Gear Tooth Count Divisor</source>
+        <translation>Pembagi jumlah gigi</translation>
+    </message>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>Buat Sambungan Putar</translation>
     </message>
 </context>
 <context>
@@ -263,6 +352,33 @@
     </message>
 </context>
 <context>
+    <name>ImageContextWidget</name>
+    <message>
+        <source>Image</source>
+        <translation>Gambar</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Pilih...</translation>
+    </message>
+    <message>
+        <source>Polygon Threshold</source>
+        <translation>Ambang poligon</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Skala</translation>
+    </message>
+    <message>
+        <source>Select Image</source>
+        <translation>Pilih gambar</translation>
+    </message>
+    <message>
+        <source>Images (*.png *.xpm *.jpg)</source>
+        <translation>Gambar (*.png *.xpm *.jpg)</translation>
+    </message>
+</context>
+<context>
     <name>IntersectionAction</name>
     <message>
         <source>Intersection</source>
@@ -286,6 +402,29 @@
         <translation>
 
 [Baris: %1, Kolom: %2]</translation>
+    </message>
+</context>
+<context>
+    <name>LinkContextWidget</name>
+    <message>
+        <source>Attach Point</source>
+        <translation>Titik kait</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>Pertama</translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation>Terakhir</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Tidak ada</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>Keduanya</translation>
     </message>
 </context>
 <context>
@@ -1040,10 +1179,24 @@ tinggi=%2</translation>
     </message>
 </context>
 <context>
+    <name>RevoluteJointContextWidget</name>
+    <message>
+        <source>Radius</source>
+        <translation>Jari-jari</translation>
+    </message>
+</context>
+<context>
     <name>RopeAction</name>
     <message>
         <source>Create Rope</source>
         <translation>Buat Tali</translation>
+    </message>
+</context>
+<context>
+    <name>RopeContextWidget</name>
+    <message>
+        <source>Rectangle Width</source>
+        <translation>Lebar persegi panjang</translation>
     </message>
 </context>
 <context>
@@ -1058,6 +1211,17 @@ tinggi=%2</translation>
     <message>
         <source>Create Spring</source>
         <translation>Buat Pegas</translation>
+    </message>
+</context>
+<context>
+    <name>SpringForceContextWidget</name>
+    <message>
+        <source>K</source>
+        <translation>K</translation>
+    </message>
+    <message>
+        <source>Damping</source>
+        <translation>Redaman</translation>
     </message>
 </context>
 <context>
@@ -1080,6 +1244,21 @@ tinggi=%2</translation>
     <message>
         <source>Create Text</source>
         <translation>Buat Teks</translation>
+    </message>
+</context>
+<context>
+    <name>TextContextWidget</name>
+    <message>
+        <source>Text</source>
+        <translation>Teks</translation>
+    </message>
+    <message>
+        <source>Font Family</source>
+        <translation>Jenis huruf</translation>
+    </message>
+    <message>
+        <source>Font Size</source>
+        <translation>Ukuran huruf</translation>
     </message>
 </context>
 <context>

@@ -63,6 +63,13 @@
     </message>
 </context>
 <context>
+    <name>BrushContextWidget</name>
+    <message>
+        <source>Brush Size</source>
+        <translation>Dimensione pennello</translation>
+    </message>
+</context>
+<context>
     <name>BrushDialog</name>
     <message>
         <source>Select Brush</source>
@@ -185,10 +192,36 @@
     </message>
 </context>
 <context>
+    <name>CameraContextWidget</name>
+    <message>
+        <source>Camera Mode</source>
+        <translation>Modalità telecamera</translation>
+    </message>
+    <message>
+        <source>Remove All Cameras</source>
+        <translation>Rimuovi tutte le telecamere</translation>
+    </message>
+    <message>
+        <source>Use Default Viewport</source>
+        <translation>Usa la vista principale</translation>
+    </message>
+    <message>
+        <source>Create New Viewport</source>
+        <translation>Crea una nuova vista</translation>
+    </message>
+</context>
+<context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
         <translation>Crea catena</translation>
+    </message>
+</context>
+<context>
+    <name>ChainContextWidget</name>
+    <message>
+        <source>Circle Radius</source>
+        <translation>Raggio del cerchio</translation>
     </message>
 </context>
 <context>
@@ -200,6 +233,17 @@
     <message>
         <source>radius=%1</source>
         <translation>raggio=%1</translation>
+    </message>
+</context>
+<context>
+    <name>ColorContextWidget</name>
+    <message>
+        <source>Color</source>
+        <translation>Colore</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Scegli...</translation>
     </message>
 </context>
 <context>
@@ -224,6 +268,13 @@
     </message>
 </context>
 <context>
+    <name>EraseContextWidget</name>
+    <message>
+        <source>Eraser Size</source>
+        <translation>Dimensione gomma</translation>
+    </message>
+</context>
+<context>
     <name>ExplodeAction</name>
     <message>
         <source>Explode Item</source>
@@ -231,10 +282,48 @@
     </message>
 </context>
 <context>
+    <name>ExplodeContextWidget</name>
+    <message>
+        <source>Explode Method</source>
+        <translation>Metodo di esplosione</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Dimensione</translation>
+    </message>
+    <message>
+        <source>Triangulate</source>
+        <translation>Dividi in triangoli</translation>
+    </message>
+    <message>
+        <source>Squarify</source>
+        <translation>Dividi in quadrati</translation>
+    </message>
+    <message>
+        <source>Circlify</source>
+        <translation>Dividi in cerchi</translation>
+    </message>
+</context>
+<context>
     <name>GearAction</name>
     <message>
         <source>Create Gear</source>
         <translation>Crea ingranaggio</translation>
+    </message>
+</context>
+<context>
+    <name>GearContextWidget</name>
+    <message>
+        <source>Gear Tooth Size</source>
+        <translation>Dimensione dente</translation>
+    </message>
+    <message>
+        <source>Gear Tooth Count Divisor</source>
+        <translation>Divisore del numero di denti</translation>
+    </message>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>Crea giunto rotoidale</translation>
     </message>
 </context>
 <context>
@@ -263,6 +352,33 @@
     </message>
 </context>
 <context>
+    <name>ImageContextWidget</name>
+    <message>
+        <source>Image</source>
+        <translation>Immagine</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Scegli...</translation>
+    </message>
+    <message>
+        <source>Polygon Threshold</source>
+        <translation>Soglia del poligono</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Scala</translation>
+    </message>
+    <message>
+        <source>Select Image</source>
+        <translation>Seleziona immagine</translation>
+    </message>
+    <message>
+        <source>Images (*.png *.xpm *.jpg)</source>
+        <translation>Immagini (*.png *.xpm *.jpg)</translation>
+    </message>
+</context>
+<context>
     <name>IntersectionAction</name>
     <message>
         <source>Intersection</source>
@@ -286,6 +402,29 @@
         <translation>
 
 [Riga: %1, Colonna: %2]</translation>
+    </message>
+</context>
+<context>
+    <name>LinkContextWidget</name>
+    <message>
+        <source>Attach Point</source>
+        <translation>Punto di aggancio</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>Primo</translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation>Ultimo</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nessuno</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>Entrambi</translation>
     </message>
 </context>
 <context>
@@ -1040,10 +1179,24 @@ altezza=%2</translation>
     </message>
 </context>
 <context>
+    <name>RevoluteJointContextWidget</name>
+    <message>
+        <source>Radius</source>
+        <translation>Raggio</translation>
+    </message>
+</context>
+<context>
     <name>RopeAction</name>
     <message>
         <source>Create Rope</source>
         <translation>Crea corda</translation>
+    </message>
+</context>
+<context>
+    <name>RopeContextWidget</name>
+    <message>
+        <source>Rectangle Width</source>
+        <translation>Larghezza del rettangolo</translation>
     </message>
 </context>
 <context>
@@ -1058,6 +1211,17 @@ altezza=%2</translation>
     <message>
         <source>Create Spring</source>
         <translation>Crea molla</translation>
+    </message>
+</context>
+<context>
+    <name>SpringForceContextWidget</name>
+    <message>
+        <source>K</source>
+        <translation>K</translation>
+    </message>
+    <message>
+        <source>Damping</source>
+        <translation>Smorzamento</translation>
     </message>
 </context>
 <context>
@@ -1080,6 +1244,21 @@ altezza=%2</translation>
     <message>
         <source>Create Text</source>
         <translation>Crea testo</translation>
+    </message>
+</context>
+<context>
+    <name>TextContextWidget</name>
+    <message>
+        <source>Text</source>
+        <translation>Testo</translation>
+    </message>
+    <message>
+        <source>Font Family</source>
+        <translation>Tipo di carattere</translation>
+    </message>
+    <message>
+        <source>Font Size</source>
+        <translation>Dimensione carattere</translation>
     </message>
 </context>
 <context>

@@ -63,6 +63,13 @@
     </message>
 </context>
 <context>
+    <name>BrushContextWidget</name>
+    <message>
+        <source>Brush Size</source>
+        <translation>ブラシの大きさ</translation>
+    </message>
+</context>
+<context>
     <name>BrushDialog</name>
     <message>
         <source>Select Brush</source>
@@ -185,10 +192,36 @@
     </message>
 </context>
 <context>
+    <name>CameraContextWidget</name>
+    <message>
+        <source>Camera Mode</source>
+        <translation>カメラモード</translation>
+    </message>
+    <message>
+        <source>Remove All Cameras</source>
+        <translation>すべてのカメラを削除</translation>
+    </message>
+    <message>
+        <source>Use Default Viewport</source>
+        <translation>メインビューを使う</translation>
+    </message>
+    <message>
+        <source>Create New Viewport</source>
+        <translation>新しいビューを作成</translation>
+    </message>
+</context>
+<context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
         <translation>チェーンを作成</translation>
+    </message>
+</context>
+<context>
+    <name>ChainContextWidget</name>
+    <message>
+        <source>Circle Radius</source>
+        <translation>円の半径</translation>
     </message>
 </context>
 <context>
@@ -200,6 +233,17 @@
     <message>
         <source>radius=%1</source>
         <translation>半径=%1</translation>
+    </message>
+</context>
+<context>
+    <name>ColorContextWidget</name>
+    <message>
+        <source>Color</source>
+        <translation>色</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>選択...</translation>
     </message>
 </context>
 <context>
@@ -224,6 +268,13 @@
     </message>
 </context>
 <context>
+    <name>EraseContextWidget</name>
+    <message>
+        <source>Eraser Size</source>
+        <translation>消しゴムの大きさ</translation>
+    </message>
+</context>
+<context>
     <name>ExplodeAction</name>
     <message>
         <source>Explode Item</source>
@@ -231,10 +282,48 @@
     </message>
 </context>
 <context>
+    <name>ExplodeContextWidget</name>
+    <message>
+        <source>Explode Method</source>
+        <translation>分解の方法</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大きさ</translation>
+    </message>
+    <message>
+        <source>Triangulate</source>
+        <translation>三角形に分割</translation>
+    </message>
+    <message>
+        <source>Squarify</source>
+        <translation>正方形に分割</translation>
+    </message>
+    <message>
+        <source>Circlify</source>
+        <translation>円に分割</translation>
+    </message>
+</context>
+<context>
     <name>GearAction</name>
     <message>
         <source>Create Gear</source>
         <translation>歯車を作成</translation>
+    </message>
+</context>
+<context>
+    <name>GearContextWidget</name>
+    <message>
+        <source>Gear Tooth Size</source>
+        <translation>歯の大きさ</translation>
+    </message>
+    <message>
+        <source>Gear Tooth Count Divisor</source>
+        <translation>歯数の除数</translation>
+    </message>
+    <message>
+        <source>Create Revolute Joint</source>
+        <translation>回転ジョイントを作成</translation>
     </message>
 </context>
 <context>
@@ -263,6 +352,33 @@
     </message>
 </context>
 <context>
+    <name>ImageContextWidget</name>
+    <message>
+        <source>Image</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>選択...</translation>
+    </message>
+    <message>
+        <source>Polygon Threshold</source>
+        <translation>多角形のしきい値</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>縮尺</translation>
+    </message>
+    <message>
+        <source>Select Image</source>
+        <translation>画像を選択</translation>
+    </message>
+    <message>
+        <source>Images (*.png *.xpm *.jpg)</source>
+        <translation>画像 (*.png *.xpm *.jpg)</translation>
+    </message>
+</context>
+<context>
     <name>IntersectionAction</name>
     <message>
         <source>Intersection</source>
@@ -286,6 +402,29 @@
         <translation>
 
 [行: %1, 列: %2]</translation>
+    </message>
+</context>
+<context>
+    <name>LinkContextWidget</name>
+    <message>
+        <source>Attach Point</source>
+        <translation>固定する端</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>最初</translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation>最後</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>両方</translation>
     </message>
 </context>
 <context>
@@ -1040,10 +1179,24 @@ height=%2</source>
     </message>
 </context>
 <context>
+    <name>RevoluteJointContextWidget</name>
+    <message>
+        <source>Radius</source>
+        <translation>半径</translation>
+    </message>
+</context>
+<context>
     <name>RopeAction</name>
     <message>
         <source>Create Rope</source>
         <translation>ロープを作成</translation>
+    </message>
+</context>
+<context>
+    <name>RopeContextWidget</name>
+    <message>
+        <source>Rectangle Width</source>
+        <translation>長方形の幅</translation>
     </message>
 </context>
 <context>
@@ -1058,6 +1211,17 @@ height=%2</source>
     <message>
         <source>Create Spring</source>
         <translation>ばねを作成</translation>
+    </message>
+</context>
+<context>
+    <name>SpringForceContextWidget</name>
+    <message>
+        <source>K</source>
+        <translation>K</translation>
+    </message>
+    <message>
+        <source>Damping</source>
+        <translation>減衰</translation>
     </message>
 </context>
 <context>
@@ -1080,6 +1244,21 @@ height=%2</source>
     <message>
         <source>Create Text</source>
         <translation>テキストを作成</translation>
+    </message>
+</context>
+<context>
+    <name>TextContextWidget</name>
+    <message>
+        <source>Text</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>Font Family</source>
+        <translation>フォント</translation>
+    </message>
+    <message>
+        <source>Font Size</source>
+        <translation>フォントサイズ</translation>
     </message>
 </context>
 <context>

@@ -86,6 +86,7 @@ public:
         // Not an action: marks a separator in the contents of menus and toolbars.
         Separator
     };
+    Q_ENUM(ActionId)
 
     explicit MainWindow(QWidget* parent = nullptr);
 

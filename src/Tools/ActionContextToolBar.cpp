@@ -1,5 +1,8 @@
 #include "Tools/ActionContextToolBar.h"
 
+#include "Tools/ActionContextWidget.h"
+#include "Tools/GraphicsViewAction.h"
+
 ActionContextToolBar::ActionContextToolBar(const QString& title, QWidget* parent)
     : QToolBar(title, parent)
 {
@@ -9,9 +12,24 @@ ActionContextToolBar::ActionContextToolBar(const QString& title, QWidget* parent
     setFixedHeight(height());
 }
 
-// No tool has a strip yet, so a switch leaves the bar empty.
-void ActionContextToolBar::setAction(GraphicsViewAction*)
+void ActionContextToolBar::hideAll()
 {
-    for (QAction* entry : actions())
+    for (QAction* entry : qAsConst(entries))
         entry->setVisible(false);
+}
+
+void ActionContextToolBar::setAction(GraphicsViewAction* action)
+{
+    hideAll();
+    if (!action || !action->contextWidget)
+        return;
+    QAction* entry = entries.value(action);
+    if (!entry) {
+        entry = addWidget(action->contextWidget);
+        entries.insert(action, entry);
+        // The entry owns the strip; a tool that goes takes its strip along, and no later tool
+        // at the same address finds a stale entry.
+        connect(action, &QObject::destroyed, this, [this, action] { delete entries.take(action); });
+    }
+    entry->setVisible(true);
 }

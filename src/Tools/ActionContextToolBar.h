@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QToolBar>
 
 class GraphicsViewAction;
@@ -14,6 +15,13 @@ class ActionContextToolBar : public QToolBar
 public:
     explicit ActionContextToolBar(const QString& title, QWidget* parent = nullptr);
 
-    // Called at each tool switch: hides every strip, then shows the one of `action`.
+    // Called at each tool switch: hides every strip, then shows the one of `action`, adding
+    // it at the tool's first turn. A tool without a strip leaves the bar empty.
     void setAction(GraphicsViewAction* action);
+
+private:
+    void hideAll();
+
+    // For each tool that has been current, the bar's entry that holds its strip.
+    QHash<GraphicsViewAction*, QAction*> entries;
 };

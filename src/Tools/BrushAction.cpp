@@ -3,6 +3,7 @@
 #include "Application/Settings.h"
 #include "Commands/PolygonCommand.h"
 #include "NemuToolbox/Toolbox.h"
+#include "Tools/BrushContextWidget.h"
 
 #include <QGraphicsPathItem>
 
@@ -10,6 +11,7 @@ BrushAction::BrushAction(QObject* parent, GraphicsView* graphicsView)
     : StrokeAction(QIcon(QStringLiteral(":/icons/brush.png")), tr("Create freehand shape"), parent,
                    graphicsView)
 {
+    contextWidget = new BrushContextWidget();
 }
 
 QPen BrushAction::strokePen()

@@ -2,6 +2,7 @@
 
 #include "Application/Application.h"
 #include "Application/Settings.h"
+#include "Tools/CameraContextWidget.h"
 #include "View/GraphicsScene.h"
 
 #include <QMouseEvent>
@@ -10,6 +11,7 @@ CameraAction::CameraAction(QObject* parent, GraphicsView* graphicsView)
     : GraphicsViewAction(QIcon(QStringLiteral(":/icons/camera.png")), tr("Create Camera"), parent,
                          graphicsView)
 {
+    contextWidget = new CameraContextWidget();
 }
 
 void CameraAction::mouseReleaseEvent(QMouseEvent* event)

@@ -2,6 +2,7 @@
 
 #include "Application/Settings.h"
 #include "Commands/ChainCommand.h"
+#include "Tools/ChainContextWidget.h"
 
 #include <QGraphicsEllipseItem>
 
@@ -9,6 +10,7 @@ ChainAction::ChainAction(QObject* parent, GraphicsView* graphicsView)
     : LinkAction(QIcon(QStringLiteral(":/icons/chain.png")), tr("Create Chain"), parent,
                  graphicsView)
 {
+    contextWidget = new ChainContextWidget();
 }
 
 double ChainAction::linkLength() const

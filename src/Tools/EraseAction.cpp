@@ -2,11 +2,13 @@
 
 #include "Application/Settings.h"
 #include "Commands/EraseCommand.h"
+#include "Tools/EraseContextWidget.h"
 
 EraseAction::EraseAction(QObject* parent, GraphicsView* graphicsView)
     : StrokeAction(QIcon(QStringLiteral(":/icons/eraser.png")), tr("Erase Item"), parent,
                    graphicsView)
 {
+    contextWidget = new EraseContextWidget();
 }
 
 QPen EraseAction::strokePen()

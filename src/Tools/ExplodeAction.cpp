@@ -2,6 +2,7 @@
 
 #include "Application/Settings.h"
 #include "Commands/ExplodeCommand.h"
+#include "Tools/ExplodeContextWidget.h"
 #include "View/GraphicsScene.h"
 #include "View/GraphicsView.h"
 
@@ -11,6 +12,7 @@ ExplodeAction::ExplodeAction(QObject* parent, GraphicsView* graphicsView)
     : GraphicsViewAction(QIcon(QStringLiteral(":/icons/bomb.png")), tr("Explode Item"), parent,
                          graphicsView)
 {
+    contextWidget = new ExplodeContextWidget();
 }
 
 void ExplodeAction::mouseReleaseEvent(QMouseEvent* event)

@@ -4,6 +4,7 @@
 #include "Commands/GearCommand.h"
 #include "Commands/RevoluteJointCommand.h"
 #include "Physics/JointItem.h"
+#include "Tools/GearContextWidget.h"
 #include "View/GearGraphicsItem.h"
 #include "View/GraphicsScene.h"
 
@@ -22,6 +23,7 @@ GearAction::GearAction(QObject* parent, GraphicsView* graphicsView)
                          graphicsView)
     , preview(new GearGraphicsItem(0.0, 0.0, 0.0))
 {
+    contextWidget = new GearContextWidget();
     addPreview(preview);
     reset();
 }

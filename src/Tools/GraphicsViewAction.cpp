@@ -3,6 +3,7 @@
 #include "Application/Application.h"
 #include "Application/Settings.h"
 #include "NemuToolbox/Toolbox.h"
+#include "Tools/ActionContextWidget.h"
 #include "View/CosmeticPens.h"
 #include "View/GraphicsScene.h"
 #include "View/GraphicsView.h"
@@ -26,6 +27,12 @@ GraphicsViewAction::GraphicsViewAction(const QIcon& icon, const QString& text, Q
     , graphicsView(graphicsView)
 {
     brush.setTransform(QTransform(TextureMatrix));
+}
+
+GraphicsViewAction::~GraphicsViewAction()
+{
+    if (contextWidget && !contextWidget->parent())
+        delete contextWidget;
 }
 
 QPointF GraphicsViewAction::snappedScenePos(const QPoint& pos) const

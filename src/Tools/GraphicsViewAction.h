@@ -5,6 +5,7 @@
 #include <QBrush>
 #include <QPixmap>
 #include <QPointF>
+#include <QPointer>
 
 class ActionContextWidget;
 class GraphicsScene;
@@ -25,12 +26,16 @@ class GraphicsViewAction : public Action
 public:
     GraphicsViewAction(const QIcon& icon, const QString& text, QObject* parent,
                        GraphicsView* graphicsView);
+    ~GraphicsViewAction() override;
 
     // The scene point of a viewport position, snapped to the grid or to the nearest snap
     // point of an item as the settings say; shows the snap marker where it snapped.
     QPointF snappedScenePos(const QPoint& pos) const;
 
-    ActionContextWidget* contextWidget = nullptr;
+    // The tool's parameter strip, made by the subclass without a parent; null for a tool
+    // without parameters. The context toolbar takes it at the tool's first turn and owns it
+    // from then on, so the tool deletes only a strip that no toolbar took.
+    QPointer<ActionContextWidget> contextWidget;
 
 public slots:
     virtual void cancel();

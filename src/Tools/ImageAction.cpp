@@ -2,6 +2,7 @@
 
 #include "Application/Settings.h"
 #include "Commands/ImageCommand.h"
+#include "Tools/ImageContextWidget.h"
 
 #include <QGraphicsPixmapItem>
 #include <QMouseEvent>
@@ -11,6 +12,11 @@ ImageAction::ImageAction(QObject* parent, GraphicsView* graphicsView)
                          graphicsView)
     , preview(new QGraphicsPixmapItem())
 {
+    auto* strip = new ImageContextWidget();
+    connect(strip, &ImageContextWidget::imageFilenameChanged, this,
+            &ImageAction::onImageFilenameChanged);
+    connect(strip, &ImageContextWidget::imageScaleChanged, this, &ImageAction::onImageScaleChanged);
+    contextWidget = strip;
     addPreview(preview, PreviewPen::Own);
     reset();
 }

@@ -2,6 +2,7 @@
 
 #include "Application/Settings.h"
 #include "Commands/RevoluteJointCommand.h"
+#include "Tools/RevoluteJointContextWidget.h"
 #include "View/GraphicsScene.h"
 #include "View/RevoluteJointGraphicsItem.h"
 
@@ -12,6 +13,10 @@ RevoluteJointAction::RevoluteJointAction(QObject* parent, GraphicsView* graphics
                          parent, graphicsView)
     , preview(new RevoluteJointGraphicsItem(Settings::instance()->revoluteJointRadius))
 {
+    auto* strip = new RevoluteJointContextWidget();
+    connect(strip, &RevoluteJointContextWidget::revoluteJointRadiusChanged, this,
+            &RevoluteJointAction::onRadiusChanged);
+    contextWidget = strip;
     addPreview(preview, PreviewPen::Own);
     reset();
 }

@@ -2,6 +2,7 @@
 
 #include "Application/Settings.h"
 #include "Commands/RopeCommand.h"
+#include "Tools/RopeContextWidget.h"
 
 #include <QGraphicsRectItem>
 #include <QLineF>
@@ -9,6 +10,7 @@
 RopeAction::RopeAction(QObject* parent, GraphicsView* graphicsView)
     : LinkAction(QIcon(QStringLiteral(":/icons/rope.png")), tr("Create Rope"), parent, graphicsView)
 {
+    contextWidget = new RopeContextWidget();
 }
 
 double RopeAction::linkLength() const

@@ -2,6 +2,7 @@
 
 #include "Application/Settings.h"
 #include "Commands/SpringForceCommand.h"
+#include "Tools/SpringForceContextWidget.h"
 #include "View/SpringGraphicsItem.h"
 
 #include <QPen>
@@ -11,6 +12,7 @@ SpringForceAction::SpringForceAction(QObject* parent, GraphicsView* graphicsView
                      graphicsView)
     , spring(new SpringGraphicsItem(QLineF()))
 {
+    contextWidget = new SpringForceContextWidget();
     // Opaque, unlike other previews, so that the colour shows as the spring will have it.
     addPreview(spring, PreviewPen::Own, 1.0);
     reset();

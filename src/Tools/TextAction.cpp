@@ -2,6 +2,7 @@
 
 #include "Application/Settings.h"
 #include "Commands/TextCommand.h"
+#include "Tools/TextContextWidget.h"
 
 #include <QGraphicsPathItem>
 #include <QMouseEvent>
@@ -19,6 +20,11 @@ TextAction::TextAction(QObject* parent, GraphicsView* graphicsView)
                          graphicsView)
     , preview(new QGraphicsPathItem())
 {
+    auto* strip = new TextContextWidget();
+    connect(strip, &TextContextWidget::textChanged, this, &TextAction::onParameterChanged);
+    connect(strip, &TextContextWidget::fontFamilyChanged, this, &TextAction::onParameterChanged);
+    connect(strip, &TextContextWidget::fontPointSizeChanged, this, &TextAction::onParameterChanged);
+    contextWidget = strip;
     // A font unit is a tenth of a metre, and font units run down.
     preview->setTransform(QTransform(0.1, 0.0, 0.0, -0.1, 0.0, 0.0));
     addPreview(preview);

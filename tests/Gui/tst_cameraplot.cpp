@@ -4,11 +4,13 @@
 #include "Gui/PlotWidget.h"
 #include "Physics/PhysicsWorld.h"
 #include "Physics/RectangleItem.h"
+#include "Tools/CameraContextWidget.h"
 #include "View/CameraGraphicsView.h"
 #include "View/GraphicsView.h"
 #include "WindowTestMain.h"
 
 #include <QPointer>
+#include <QPushButton>
 #include <QUndoStack>
 
 namespace {
@@ -91,7 +93,9 @@ private slots:
         application()->createCamera(box, Brivane::WindowCamera);
         application()->createCamera(box, Brivane::WindowCamera);
         QCOMPARE(windows<CameraGraphicsView>().size(), 2);
-        application()->removeAllCameras();
+        // As the camera tool's strip does it.
+        CameraContextWidget strip;
+        strip.findChild<QPushButton*>()->click();
         settle();
         QVERIFY(windows<CameraGraphicsView>().isEmpty());
         QVERIFY(view->bodyWithCamera().isEmpty());

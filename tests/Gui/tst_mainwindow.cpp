@@ -3,6 +3,7 @@
 #include "Gui/MainWindow.h"
 #include "Physics/PhysicsWorld.h"
 #include "Tools/ActionContextToolBar.h"
+#include "Tools/ActionContextWidget.h"
 #include "Tools/GraphicsViewAction.h"
 #include "View/GraphicsView.h"
 #include "View/StatusBar.h"
@@ -488,15 +489,33 @@ private slots:
         QCOMPARE(static_cast<QAction*>(view()->currentAction), action(Id::Select));
     }
 
-    void toolSwitchEmptiesContextToolBar()
+    // The bar shows the current tool's strip and no other; a strip enters it once.
+    void contextToolBarShowsTheCurrentStrip()
     {
         auto* context = window()->findChild<ActionContextToolBar*>();
-        QAction* entry = context->addWidget(new QWidget());
-        QVERIFY(entry->isVisible());
+        auto visibleStrips = [context] {
+            QList<QWidget*> shown;
+            for (QAction* entry : context->actions()) {
+                if (entry->isVisible())
+                    shown.append(context->widgetForAction(entry));
+            }
+            return shown;
+        };
+        auto strip = [this](Id id) {
+            return static_cast<QWidget*>(
+                qobject_cast<GraphicsViewAction*>(action(id))->contextWidget);
+        };
+        action(Id::Chain)->trigger();
+        const int entries = context->actions().size();
+        QCOMPARE(visibleStrips(), QList<QWidget*>({strip(Id::Chain)}));
+        action(Id::Gear)->trigger();
+        QCOMPARE(visibleStrips(), QList<QWidget*>({strip(Id::Gear)}));
+        action(Id::Chain)->trigger();
+        QCOMPARE(context->actions().size(), entries + 1);
+        QCOMPARE(visibleStrips(), QList<QWidget*>({strip(Id::Chain)}));
         action(Id::Select)->trigger();
-        QVERIFY(!entry->isVisible());
-        // The entry owns the strip.
-        delete entry;
+        QCOMPARE(visibleStrips(), QList<QWidget*>());
+        QCOMPARE(context->actions().size(), entries + 1);
     }
 
     void playPauseIconFollowsWorld()

@@ -5,9 +5,13 @@
 #include "Gui/QPropertyEditorWidget.h"
 #include "Physics/PhysicsWorld.h"
 #include "Physics/RectangleItem.h"
+#include "Tools/ActionContextToolBar.h"
+#include "Tools/ActionContextWidget.h"
+#include "Tools/GraphicsViewAction.h"
 #include "View/CameraGraphicsView.h"
 #include "View/GraphicsView.h"
 
+#include <QAbstractButton>
 #include <QDir>
 #include <QDockWidget>
 #include <QFileInfo>
@@ -155,6 +159,55 @@ private slots:
     {
         QVERIFY(window()->isMaximized());
         QCOMPARE(window()->windowTitle(), QStringLiteral("Brivane"));
+    }
+
+    // Runs last: it takes the window out of its maximised state.
+    void contextStripsFitANarrowWindow_data()
+    {
+        QTest::addColumn<MainWindow::ActionId>("tool");
+        QTest::addColumn<QString>("artifact");
+        QTest::newRow("body") << MainWindow::ActionId::Gear << "artifacts/context-gear.png";
+        QTest::newRow("joint") << MainWindow::ActionId::RevoluteJoint
+                               << "artifacts/context-revolute.png";
+        QTest::newRow("chain") << MainWindow::ActionId::Chain << "artifacts/context-chain.png";
+        QTest::newRow("text") << MainWindow::ActionId::Text << "artifacts/context-text.png";
+        QTest::newRow("image") << MainWindow::ActionId::Image << "artifacts/context-image.png";
+        QTest::newRow("spring") << MainWindow::ActionId::SpringForce
+                                << "artifacts/context-spring.png";
+    }
+    void contextStripsFitANarrowWindow()
+    {
+        QFETCH(MainWindow::ActionId, tool);
+        QFETCH(QString, artifact);
+        window()->showNormal();
+        window()->resize(1280, 800);
+        window()->action(tool)->trigger();
+        auto* bar = window()->findChild<ActionContextToolBar*>();
+        ActionContextWidget* strip
+            = qobject_cast<GraphicsViewAction*>(window()->action(tool))->contextWidget;
+        QTRY_VERIFY(strip->isVisible() && window()->width() == 1280);
+        // Within the bar, not pushed into its overflow menu.
+        QVERIFY(QRect(QPoint(0, 0), bar->size())
+                    .contains(QRect(strip->mapTo(bar, QPoint(0, 0)), strip->size())));
+        QList<QWidget*> controls;
+        for (QWidget* control :
+             strip->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+            controls.append(control);
+        for (QWidget* control : controls) {
+            const QString name = QString::fromLatin1(control->metaObject()->className());
+            // Labels and buttons show their whole text.
+            if (qobject_cast<QLabel*>(control) || qobject_cast<QAbstractButton*>(control))
+                QVERIFY2(control->width() >= control->sizeHint().width(), qPrintable(name));
+            QVERIFY2(control->height() <= bar->height(), qPrintable(name));
+            for (QWidget* other : controls) {
+                QVERIFY2(other == control || !other->geometry().intersects(control->geometry()),
+                         qPrintable(name));
+            }
+        }
+        bar->repaint();
+        const QImage shot = screenshot();
+        saveArtifact(shot.copy(QRect(bar->mapTo(window(), QPoint(0, 0)), bar->size())),
+                     qPrintable(artifact));
     }
 };
 

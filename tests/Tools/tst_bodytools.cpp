@@ -16,7 +16,6 @@
 #include <QToolTip>
 
 using Id = MainWindow::ActionId;
-Q_DECLARE_METATYPE(MainWindow::ActionId)
 
 namespace {
 // Metres: where the gear tests put the centre of their gear.

@@ -4,13 +4,15 @@
 #include "Physics/RectangleItem.h"
 #include "PolygonArea.h"
 #include "ToolFixture.h"
+#include "Tools/ActionContextWidget.h"
 #include "WindowTestMain.h"
 
+#include <QDoubleSpinBox>
 #include <QGraphicsItemGroup>
 #include <QGraphicsRectItem>
+#include <QLineEdit>
 
 using Id = MainWindow::ActionId;
-Q_DECLARE_METATYPE(MainWindow::ActionId)
 
 // The freehand tools (chain, rope, brush) and the stamps (text, image) through the real view.
 class TestStampTools : public QObject, private ToolFixture
@@ -139,6 +141,38 @@ private slots:
         mouse.click(QPointF(1, 4));
         QCOMPARE(stack()->text(stack()->count() - 1), text);
         QVERIFY(!topItems().isEmpty());
+    }
+
+    // The previews that show a strip's value follow a change in the strip at once, while the
+    // mouse rests.
+    void previewFollowsTheStrip_data()
+    {
+        QTest::addColumn<Id>("id");
+        QTest::addColumn<double>("growth");
+        QTest::newRow("text") << Id::Text << 2.0;
+        QTest::newRow("image scale") << Id::Image << 3.0;
+        QTest::newRow("revolute radius") << Id::RevoluteJoint << 4.0;
+    }
+    void previewFollowsTheStrip()
+    {
+        QFETCH(Id, id);
+        QFETCH(double, growth);
+        selectTool(id);
+        gestures().move(QPointF(1, 4));
+        QCOMPARE(shownPreviews().size(), 1);
+        const double before = shownPreviews().first()->sceneBoundingRect().width();
+        QWidget* strip = tool(id)->contextWidget;
+        auto* text = strip->findChild<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly);
+        if (text && !text->isReadOnly()) {
+            text->setText(text->text() + text->text());
+        } else {
+            // The last number of the strip: the image's scale, the joint's radius.
+            auto* size = strip->findChildren<QDoubleSpinBox*>().last();
+            size->setValue(growth * size->value());
+        }
+        const double after = shownPreviews().first()->sceneBoundingRect().width();
+        QVERIFY2(std::abs(after / before - growth) < 0.25 * growth,
+                 qPrintable(QStringLiteral("%1 -> %2").arg(before).arg(after)));
     }
 };
 

@@ -8,7 +8,6 @@
 #include <QRubberBand>
 
 using Id = MainWindow::ActionId;
-Q_DECLARE_METATYPE(MainWindow::ActionId)
 
 // The tools that act on what is in the scene: remove, explode and the gun, with the mouse.
 class TestWorldTools : public QObject, private ToolFixture
