@@ -13,7 +13,9 @@ packages=(
     cmake ninja-build g++ pkg-config clang clang-format
     qtbase5-dev libqt5svg5-dev libqt5svg5 qtscript5-dev libqt5opengl5-dev qttools5-dev qttools5-dev-tools
     libbox2d-dev libpolyclipping-dev libcgal-dev libgmp-dev libmpfr-dev libquazip5-dev libqwt-qt5-dev
-    libbenchmark-dev xvfb xauth libgl1-mesa-dri fonts-dejavu-core
+    libbenchmark-dev xvfb xauth libgl1-mesa-dri
+    # Glyphs for every language the program speaks: Latin, Greek and Cyrillic, Japanese, Chinese.
+    fonts-dejavu-core fonts-ipafont-gothic fonts-wqy-zenhei
 )
 
 install_missing() {

@@ -211,6 +211,13 @@
     </message>
 </context>
 <context>
+    <name>CameraGraphicsView</name>
+    <message>
+        <source>Camera for %1</source>
+        <translation>Kamera für %1</translation>
+    </message>
+</context>
+<context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
@@ -335,6 +342,25 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>GraphicsViewPropertiesWidget</name>
+    <message>
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Wählen...</translation>
+    </message>
+    <message>
+        <source>Body With Camera</source>
+        <translation>Körper mit Kamera</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Maßstab</translation>
     </message>
 </context>
 <context>
@@ -939,6 +965,65 @@
     </message>
 </context>
 <context>
+    <name>PhysicsWorldPropertiesWidget</name>
+    <message>
+        <source>Gravity</source>
+        <translation>Schwerkraft</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Step Frequency</source>
+        <translation>Schrittfrequenz</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation> Hz</translation>
+    </message>
+    <message>
+        <source>Iterations</source>
+        <translation>Iterationen</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Warm Starting</source>
+        <translation>Warmstart</translation>
+    </message>
+    <message>
+        <source>Continuous Physics</source>
+        <translation>Kontinuierliche Physik</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Sekunden</translation>
+    </message>
+    <message>
+        <source>Bodies</source>
+        <translation>Körper</translation>
+    </message>
+    <message>
+        <source>Joints</source>
+        <translation>Gelenke</translation>
+    </message>
+</context>
+<context>
     <name>PlayPauseAction</name>
     <message>
         <source>Play/Pause</source>
@@ -1200,10 +1285,135 @@ Höhe=%2</translation>
     </message>
 </context>
 <context>
+    <name>ScenePropertiesWidget</name>
+    <message>
+        <source>Physics World</source>
+        <translation>Physikwelt</translation>
+    </message>
+    <message>
+        <source>Graphics View</source>
+        <translation>Ansicht</translation>
+    </message>
+</context>
+<context>
     <name>SelectAction</name>
     <message>
         <source>Select/Move</source>
         <translation>Auswählen/Verschieben</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWidget</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>Grafik</translation>
+    </message>
+    <message>
+        <source>Use OpenGL</source>
+        <translation>OpenGL verwenden</translation>
+    </message>
+    <message>
+        <source>Antialiasing</source>
+        <translation>Kantenglättung</translation>
+    </message>
+    <message>
+        <source>Physics</source>
+        <translation>Physik</translation>
+    </message>
+    <message>
+        <source>Timer Interval</source>
+        <translation>Zeitgeberintervall</translation>
+    </message>
+    <message>
+        <source>Bodies Defaults</source>
+        <translation>Vorgaben für Körper</translation>
+    </message>
+    <message>
+        <source>Linear Damping</source>
+        <translation>Lineare Dämpfung</translation>
+    </message>
+    <message>
+        <source>Angular Damping</source>
+        <translation>Drehdämpfung</translation>
+    </message>
+    <message>
+        <source>Friction</source>
+        <translation>Reibung</translation>
+    </message>
+    <message>
+        <source>Restitution</source>
+        <translation>Elastizität</translation>
+    </message>
+    <message>
+        <source>Allow Sleep</source>
+        <translation>Ruhen erlauben</translation>
+    </message>
+    <message>
+        <source>Is Bullet</source>
+        <translation>Ist Geschoss</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>GUI Style</source>
+        <translation>Oberflächenstil</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Create ground on start-up</source>
+        <translation>Boden beim Start anlegen</translation>
+    </message>
+    <message>
+        <source>Show scale indicator</source>
+        <translation>Maßstabsleiste zeigen</translation>
+    </message>
+    <message>
+        <source>Show tips at start-up</source>
+        <translation>Tipps beim Start zeigen</translation>
+    </message>
+    <message>
+        <source>Attach script debugger</source>
+        <translation>Skript-Debugger anhängen</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>SnapWidget</name>
+    <message>
+        <source>Snap To Grid (F9)</source>
+        <translation>Am Raster einrasten (F9)</translation>
+    </message>
+    <message>
+        <source>Snaps to grid</source>
+        <translation>Rastet am Raster ein</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Größe:</translation>
+    </message>
+    <message>
+        <source>Snap To Objects (F10)</source>
+        <translation>An Objekten einrasten (F10)</translation>
+    </message>
+    <message>
+        <source>Snaps to objects</source>
+        <translation>Rastet an Objekten ein</translation>
+    </message>
+    <message>
+        <source>Distance:</source>
+        <translation>Abstand:</translation>
     </message>
 </context>
 <context>

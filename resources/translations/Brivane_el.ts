@@ -211,6 +211,13 @@
     </message>
 </context>
 <context>
+    <name>CameraGraphicsView</name>
+    <message>
+        <source>Camera for %1</source>
+        <translation>Κάμερα για %1</translation>
+    </message>
+</context>
+<context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
@@ -335,6 +342,25 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>GraphicsViewPropertiesWidget</name>
+    <message>
+        <source>Background</source>
+        <translation>Φόντο</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Επιλογή...</translation>
+    </message>
+    <message>
+        <source>Body With Camera</source>
+        <translation>Σώμα με κάμερα</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Κλίμακα</translation>
     </message>
 </context>
 <context>
@@ -939,6 +965,65 @@
     </message>
 </context>
 <context>
+    <name>PhysicsWorldPropertiesWidget</name>
+    <message>
+        <source>Gravity</source>
+        <translation>Βαρύτητα</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Step Frequency</source>
+        <translation>Συχνότητα βημάτων</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation> Hz</translation>
+    </message>
+    <message>
+        <source>Iterations</source>
+        <translation>Επαναλήψεις</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>Ταχύτητα</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Θέση</translation>
+    </message>
+    <message>
+        <source>Warm Starting</source>
+        <translation>Θερμή εκκίνηση</translation>
+    </message>
+    <message>
+        <source>Continuous Physics</source>
+        <translation>Συνεχής φυσική</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Πληροφορίες</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Δευτερόλεπτα</translation>
+    </message>
+    <message>
+        <source>Bodies</source>
+        <translation>Σώματα</translation>
+    </message>
+    <message>
+        <source>Joints</source>
+        <translation>Αρθρώσεις</translation>
+    </message>
+</context>
+<context>
     <name>PlayPauseAction</name>
     <message>
         <source>Play/Pause</source>
@@ -1200,10 +1285,135 @@ height=%2</source>
     </message>
 </context>
 <context>
+    <name>ScenePropertiesWidget</name>
+    <message>
+        <source>Physics World</source>
+        <translation>Φυσικός κόσμος</translation>
+    </message>
+    <message>
+        <source>Graphics View</source>
+        <translation>Προβολή</translation>
+    </message>
+</context>
+<context>
     <name>SelectAction</name>
     <message>
         <source>Select/Move</source>
         <translation>Επιλογή/Μετακίνηση</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWidget</name>
+    <message>
+        <source>Settings</source>
+        <translation>Ρυθμίσεις</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>Γραφικά</translation>
+    </message>
+    <message>
+        <source>Use OpenGL</source>
+        <translation>Χρήση OpenGL</translation>
+    </message>
+    <message>
+        <source>Antialiasing</source>
+        <translation>Εξομάλυνση</translation>
+    </message>
+    <message>
+        <source>Physics</source>
+        <translation>Φυσική</translation>
+    </message>
+    <message>
+        <source>Timer Interval</source>
+        <translation>Διάστημα χρονιστή</translation>
+    </message>
+    <message>
+        <source>Bodies Defaults</source>
+        <translation>Προεπιλογές σωμάτων</translation>
+    </message>
+    <message>
+        <source>Linear Damping</source>
+        <translation>Γραμμική απόσβεση</translation>
+    </message>
+    <message>
+        <source>Angular Damping</source>
+        <translation>Γωνιακή απόσβεση</translation>
+    </message>
+    <message>
+        <source>Friction</source>
+        <translation>Τριβή</translation>
+    </message>
+    <message>
+        <source>Restitution</source>
+        <translation>Αναπήδηση</translation>
+    </message>
+    <message>
+        <source>Allow Sleep</source>
+        <translation>Να επιτρέπεται ο ύπνος</translation>
+    </message>
+    <message>
+        <source>Is Bullet</source>
+        <translation>Είναι βλήμα</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Γενικά</translation>
+    </message>
+    <message>
+        <source>GUI Style</source>
+        <translation>Στυλ γραφικού περιβάλλοντος</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Γλώσσα</translation>
+    </message>
+    <message>
+        <source>Create ground on start-up</source>
+        <translation>Δημιουργία εδάφους στην εκκίνηση</translation>
+    </message>
+    <message>
+        <source>Show scale indicator</source>
+        <translation>Εμφάνιση δείκτη κλίμακας</translation>
+    </message>
+    <message>
+        <source>Show tips at start-up</source>
+        <translation>Εμφάνιση συμβουλών στην εκκίνηση</translation>
+    </message>
+    <message>
+        <source>Attach script debugger</source>
+        <translation>Σύνδεση αποσφαλματωτή σεναρίων</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>SnapWidget</name>
+    <message>
+        <source>Snap To Grid (F9)</source>
+        <translation>Προσκόλληση στο πλέγμα (F9)</translation>
+    </message>
+    <message>
+        <source>Snaps to grid</source>
+        <translation>Προσκολλά στο πλέγμα</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Μέγεθος:</translation>
+    </message>
+    <message>
+        <source>Snap To Objects (F10)</source>
+        <translation>Προσκόλληση σε αντικείμενα (F10)</translation>
+    </message>
+    <message>
+        <source>Snaps to objects</source>
+        <translation>Προσκολλά σε αντικείμενα</translation>
+    </message>
+    <message>
+        <source>Distance:</source>
+        <translation>Απόσταση:</translation>
     </message>
 </context>
 <context>

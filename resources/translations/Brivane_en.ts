@@ -5,1282 +5,1495 @@
     <name>Application</name>
     <message>
         <source>Could not remove temp directory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Could not remove temp directory.</translation>
     </message>
     <message>
         <source>Could not create temp directory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Could not create temp directory.</translation>
     </message>
     <message>
         <source>Could not set language: Unknown language: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Could not set language: Unknown language: %1</translation>
     </message>
     <message>
         <source>%1 has been successfully loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 has been successfully loaded.</translation>
     </message>
     <message>
         <source>%1 failed to load.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 failed to load.</translation>
     </message>
     <message>
         <source>Script debugger attached.</source>
-        <translation type="unfinished"></translation>
+        <translation>Script debugger attached.</translation>
     </message>
     <message>
         <source>Script debugger detached.</source>
-        <translation type="unfinished"></translation>
+        <translation>Script debugger detached.</translation>
     </message>
     <message>
         <source>Supported OpenGL Versions:</source>
-        <translation type="unfinished"></translation>
+        <translation>Supported OpenGL Versions:</translation>
     </message>
     <message>
         <source>%1 is not evaluated: a script file may hold at most %2 MB.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 is not evaluated: a script file may hold at most %2 MB.</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation type="unfinished"></translation>
+        <translation>Loading...</translation>
     </message>
     <message>
         <source>The script was stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>The script was stopped.</translation>
     </message>
 </context>
 <context>
     <name>BalloonAction</name>
     <message>
         <source>Create Balloon</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Balloon</translation>
     </message>
 </context>
 <context>
     <name>BrushAction</name>
     <message>
         <source>Create freehand shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Create freehand shape</translation>
     </message>
 </context>
 <context>
     <name>BrushContextWidget</name>
     <message>
         <source>Brush Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Brush Size</translation>
     </message>
 </context>
 <context>
     <name>BrushDialog</name>
     <message>
         <source>Select Brush</source>
-        <translation type="unfinished"></translation>
+        <translation>Select Brush</translation>
     </message>
     <message>
         <source>Color/Pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>Color/Pattern</translation>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color</translation>
     </message>
     <message>
         <source>Select...</source>
-        <translation type="unfinished"></translation>
+        <translation>Select...</translation>
     </message>
     <message>
         <source>Pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>Pattern</translation>
     </message>
     <message>
         <source>No Brush</source>
-        <translation type="unfinished"></translation>
+        <translation>No Brush</translation>
     </message>
     <message>
         <source>Solid</source>
-        <translation type="unfinished"></translation>
+        <translation>Solid</translation>
     </message>
     <message>
         <source>Dense1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dense1</translation>
     </message>
     <message>
         <source>Dense2</source>
-        <translation type="unfinished"></translation>
+        <translation>Dense2</translation>
     </message>
     <message>
         <source>Dense3</source>
-        <translation type="unfinished"></translation>
+        <translation>Dense3</translation>
     </message>
     <message>
         <source>Dense4</source>
-        <translation type="unfinished"></translation>
+        <translation>Dense4</translation>
     </message>
     <message>
         <source>Dense5</source>
-        <translation type="unfinished"></translation>
+        <translation>Dense5</translation>
     </message>
     <message>
         <source>Dense6</source>
-        <translation type="unfinished"></translation>
+        <translation>Dense6</translation>
     </message>
     <message>
         <source>Dense7</source>
-        <translation type="unfinished"></translation>
+        <translation>Dense7</translation>
     </message>
     <message>
         <source>Horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal</translation>
     </message>
     <message>
         <source>Vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertical</translation>
     </message>
     <message>
         <source>Cross</source>
-        <translation type="unfinished"></translation>
+        <translation>Cross</translation>
     </message>
     <message>
         <source>Backward diagonal</source>
-        <translation type="unfinished"></translation>
+        <translation>Backward diagonal</translation>
     </message>
     <message>
         <source>Forward diagonal</source>
-        <translation type="unfinished"></translation>
+        <translation>Forward diagonal</translation>
     </message>
     <message>
         <source>Crossing diagonal</source>
-        <translation type="unfinished"></translation>
+        <translation>Crossing diagonal</translation>
     </message>
     <message>
         <source>Texture</source>
-        <translation type="unfinished"></translation>
+        <translation>Texture</translation>
     </message>
     <message>
         <source>Auto Adjust</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto Adjust</translation>
     </message>
     <message>
         <source>Horizontal scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal scale</translation>
     </message>
     <message>
         <source>Vertical scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertical scale</translation>
     </message>
     <message>
         <source>Horizontal offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal offset</translation>
     </message>
     <message>
         <source>Vertical offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertical offset</translation>
     </message>
     <message>
         <source>Select Texture</source>
-        <translation type="unfinished"></translation>
+        <translation>Select Texture</translation>
     </message>
     <message>
         <source>Image Files (*.png *.jpg *.bmp *.gif)</source>
-        <translation type="unfinished"></translation>
+        <translation>Image Files (*.png *.jpg *.bmp *.gif)</translation>
     </message>
 </context>
 <context>
     <name>CameraAction</name>
     <message>
         <source>Create Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Camera</translation>
     </message>
 </context>
 <context>
     <name>CameraContextWidget</name>
     <message>
         <source>Camera Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Camera Mode</translation>
     </message>
     <message>
         <source>Remove All Cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>Remove All Cameras</translation>
     </message>
     <message>
         <source>Use Default Viewport</source>
-        <translation type="unfinished"></translation>
+        <translation>Use Default Viewport</translation>
     </message>
     <message>
         <source>Create New Viewport</source>
-        <translation type="unfinished"></translation>
+        <translation>Create New Viewport</translation>
+    </message>
+</context>
+<context>
+    <name>CameraGraphicsView</name>
+    <message>
+        <source>Camera for %1</source>
+        <translation>Camera for %1</translation>
     </message>
 </context>
 <context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Chain</translation>
     </message>
 </context>
 <context>
     <name>ChainContextWidget</name>
     <message>
         <source>Circle Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Circle Radius</translation>
     </message>
 </context>
 <context>
     <name>CircleAction</name>
     <message>
         <source>Create Circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Circle</translation>
     </message>
     <message>
         <source>radius=%1</source>
-        <translation type="unfinished"></translation>
+        <translation>radius=%1</translation>
     </message>
 </context>
 <context>
     <name>ColorContextWidget</name>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color</translation>
     </message>
     <message>
         <source>Select...</source>
-        <translation type="unfinished"></translation>
+        <translation>Select...</translation>
     </message>
 </context>
 <context>
     <name>DifferenceAction</name>
     <message>
         <source>Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Difference</translation>
     </message>
 </context>
 <context>
     <name>DistanceJointAction</name>
     <message>
         <source>Create Distance Joint</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Distance Joint</translation>
     </message>
 </context>
 <context>
     <name>EraseAction</name>
     <message>
         <source>Erase Item</source>
-        <translation type="unfinished"></translation>
+        <translation>Erase Item</translation>
     </message>
 </context>
 <context>
     <name>EraseContextWidget</name>
     <message>
         <source>Eraser Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Eraser Size</translation>
     </message>
 </context>
 <context>
     <name>ExplodeAction</name>
     <message>
         <source>Explode Item</source>
-        <translation type="unfinished"></translation>
+        <translation>Explode Item</translation>
     </message>
 </context>
 <context>
     <name>ExplodeContextWidget</name>
     <message>
         <source>Explode Method</source>
-        <translation type="unfinished"></translation>
+        <translation>Explode Method</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Size</translation>
     </message>
     <message>
         <source>Triangulate</source>
-        <translation type="unfinished"></translation>
+        <translation>Triangulate</translation>
     </message>
     <message>
         <source>Squarify</source>
-        <translation type="unfinished"></translation>
+        <translation>Squarify</translation>
     </message>
     <message>
         <source>Circlify</source>
-        <translation type="unfinished"></translation>
+        <translation>Circlify</translation>
     </message>
 </context>
 <context>
     <name>GearAction</name>
     <message>
         <source>Create Gear</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Gear</translation>
     </message>
 </context>
 <context>
     <name>GearContextWidget</name>
     <message>
         <source>Gear Tooth Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Gear Tooth Size</translation>
     </message>
     <message>
         <source>Gear Tooth Count Divisor</source>
-        <translation type="unfinished"></translation>
+        <translation>Gear Tooth Count Divisor</translation>
     </message>
     <message>
         <source>Create Revolute Joint</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Revolute Joint</translation>
     </message>
 </context>
 <context>
     <name>GraphicsView</name>
     <message>
         <source>OpenGL is not available here; the view draws without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>OpenGL is not available here; the view draws without it.</translation>
     </message>
     <message>
         <source>%1 m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>GraphicsViewPropertiesWidget</name>
+    <message>
+        <source>Background</source>
+        <translation>Background</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Select...</translation>
+    </message>
+    <message>
+        <source>Body With Camera</source>
+        <translation>Body With Camera</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Scale</translation>
     </message>
 </context>
 <context>
     <name>GunAction</name>
     <message>
         <source>Shoot Item</source>
-        <translation type="unfinished"></translation>
+        <translation>Shoot Item</translation>
     </message>
 </context>
 <context>
     <name>ImageAction</name>
     <message>
         <source>Create Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Image</translation>
     </message>
 </context>
 <context>
     <name>ImageContextWidget</name>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Image</translation>
     </message>
     <message>
         <source>Select...</source>
-        <translation type="unfinished"></translation>
+        <translation>Select...</translation>
     </message>
     <message>
         <source>Polygon Threshold</source>
-        <translation type="unfinished"></translation>
+        <translation>Polygon Threshold</translation>
     </message>
     <message>
         <source>Scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Scale</translation>
     </message>
     <message>
         <source>Select Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Select Image</translation>
     </message>
     <message>
         <source>Images (*.png *.xpm *.jpg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Images (*.png *.xpm *.jpg)</translation>
     </message>
 </context>
 <context>
     <name>IntersectionAction</name>
     <message>
         <source>Intersection</source>
-        <translation type="unfinished"></translation>
+        <translation>Intersection</translation>
     </message>
 </context>
 <context>
     <name>JSDialog</name>
     <message>
         <source>The program contains a syntax error.</source>
-        <translation type="unfinished"></translation>
+        <translation>The program contains a syntax error.</translation>
     </message>
     <message>
         <source>The program is incomplete.</source>
-        <translation type="unfinished"></translation>
+        <translation>The program is incomplete.</translation>
     </message>
     <message>
         <source>
 
 [Line: %1, Column: %2]</source>
-        <translation type="unfinished"></translation>
+        <translation>
+
+[Line: %1, Column: %2]</translation>
     </message>
 </context>
 <context>
     <name>LinkContextWidget</name>
     <message>
         <source>Attach Point</source>
-        <translation type="unfinished"></translation>
+        <translation>Attach Point</translation>
     </message>
     <message>
         <source>First</source>
-        <translation type="unfinished"></translation>
+        <translation>First</translation>
     </message>
     <message>
         <source>Last</source>
-        <translation type="unfinished"></translation>
+        <translation>Last</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>None</translation>
     </message>
     <message>
         <source>Both</source>
-        <translation type="unfinished"></translation>
+        <translation>Both</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>New Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>New Scene</translation>
     </message>
     <message>
         <source>Creates a new scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Creates a new scene</translation>
     </message>
     <message>
         <source>Save Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Save Scene</translation>
     </message>
     <message>
         <source>Saves current scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Saves current scene</translation>
     </message>
     <message>
         <source>Save Scene As...</source>
-        <translation type="unfinished"></translation>
+        <translation>Save Scene As...</translation>
     </message>
     <message>
         <source>Saves current scene as</source>
-        <translation type="unfinished"></translation>
+        <translation>Saves current scene as</translation>
     </message>
     <message>
         <source>Load Scene...</source>
-        <translation type="unfinished"></translation>
+        <translation>Load Scene...</translation>
     </message>
     <message>
         <source>Loads a scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Loads a scene</translation>
     </message>
     <message>
         <source>Upload Scene...</source>
-        <translation type="unfinished"></translation>
+        <translation>Upload Scene...</translation>
     </message>
     <message>
         <source>Uploads current scene to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Uploads current scene to %1</translation>
     </message>
     <message>
         <source>Download Scenes...</source>
-        <translation type="unfinished"></translation>
+        <translation>Download Scenes...</translation>
     </message>
     <message>
         <source>Downloads scenes from %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Downloads scenes from %1</translation>
     </message>
     <message>
         <source>Export...</source>
-        <translation type="unfinished"></translation>
+        <translation>Export...</translation>
     </message>
     <message>
         <source>Exports current scene as an image</source>
-        <translation type="unfinished"></translation>
+        <translation>Exports current scene as an image</translation>
     </message>
     <message>
         <source>Evaluate Script...</source>
-        <translation type="unfinished"></translation>
+        <translation>Evaluate Script...</translation>
     </message>
     <message>
         <source>Evaluates a .script file</source>
-        <translation type="unfinished"></translation>
+        <translation>Evaluates a .script file</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Quit</translation>
     </message>
     <message>
         <source>Quits the application</source>
-        <translation type="unfinished"></translation>
+        <translation>Quits the application</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Undo</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Redo</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Select All</translation>
     </message>
     <message>
         <source>Selects all items of the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Selects all items of the scene</translation>
     </message>
     <message>
         <source>Zoom In</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom In</translation>
     </message>
     <message>
         <source>Zooms in</source>
-        <translation type="unfinished"></translation>
+        <translation>Zooms in</translation>
     </message>
     <message>
         <source>Zoom Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom Out</translation>
     </message>
     <message>
         <source>Zooms out</source>
-        <translation type="unfinished"></translation>
+        <translation>Zooms out</translation>
     </message>
     <message>
         <source>Zoom Extents</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom Extents</translation>
     </message>
     <message>
         <source>Zooms in or out to fit the extents of the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Zooms in or out to fit the extents of the scene</translation>
     </message>
     <message>
         <source>Show all</source>
-        <translation type="unfinished"></translation>
+        <translation>Show all</translation>
     </message>
     <message>
         <source>Shows all toolbars</source>
-        <translation type="unfinished"></translation>
+        <translation>Shows all toolbars</translation>
     </message>
     <message>
         <source>Hide all</source>
-        <translation type="unfinished"></translation>
+        <translation>Hide all</translation>
     </message>
     <message>
         <source>Hides all toolbars</source>
-        <translation type="unfinished"></translation>
+        <translation>Hides all toolbars</translation>
     </message>
     <message>
         <source>Shows all dock widgets</source>
-        <translation type="unfinished"></translation>
+        <translation>Shows all dock widgets</translation>
     </message>
     <message>
         <source>Hides all dock widgets</source>
-        <translation type="unfinished"></translation>
+        <translation>Hides all dock widgets</translation>
     </message>
     <message>
         <source>Fullscreen</source>
-        <translation type="unfinished"></translation>
+        <translation>Fullscreen</translation>
     </message>
     <message>
         <source>Toggles fullscreen mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Toggles fullscreen mode</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Help</translation>
     </message>
     <message>
         <source>Shows the application&apos;s help file</source>
-        <translation type="unfinished"></translation>
+        <translation>Shows the application&apos;s help file</translation>
     </message>
     <message>
         <source>About...</source>
-        <translation type="unfinished"></translation>
+        <translation>About...</translation>
     </message>
     <message>
         <source>Shows the application&apos;s About box</source>
-        <translation type="unfinished"></translation>
+        <translation>Shows the application&apos;s About box</translation>
     </message>
     <message>
         <source>About Qt...</source>
-        <translation type="unfinished"></translation>
+        <translation>About Qt...</translation>
     </message>
     <message>
         <source>Shows the Qt library&apos;s About box</source>
-        <translation type="unfinished"></translation>
+        <translation>Shows the Qt library&apos;s About box</translation>
     </message>
     <message>
         <source>Play/Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Play/Pause</translation>
     </message>
     <message>
         <source>Starts/Pauses the simulation</source>
-        <translation type="unfinished"></translation>
+        <translation>Starts/Pauses the simulation</translation>
     </message>
     <message>
         <source>Select/Move</source>
-        <translation type="unfinished"></translation>
+        <translation>Select/Move</translation>
     </message>
     <message>
         <source>Selects and/or moves an item</source>
-        <translation type="unfinished"></translation>
+        <translation>Selects and/or moves an item</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Remove</translation>
     </message>
     <message>
         <source>Removes an item or a selection of items from the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Removes an item or a selection of items from the scene</translation>
     </message>
     <message>
         <source>Explode Item</source>
-        <translation type="unfinished"></translation>
+        <translation>Explode Item</translation>
     </message>
     <message>
         <source>Explodes an item</source>
-        <translation type="unfinished"></translation>
+        <translation>Explodes an item</translation>
     </message>
     <message>
         <source>Erase Item</source>
-        <translation type="unfinished"></translation>
+        <translation>Erase Item</translation>
     </message>
     <message>
         <source>Erases parts of an item</source>
-        <translation type="unfinished"></translation>
+        <translation>Erases parts of an item</translation>
     </message>
     <message>
         <source>Create Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Camera</translation>
     </message>
     <message>
         <source>Creates a camera that follows an item</source>
-        <translation type="unfinished"></translation>
+        <translation>Creates a camera that follows an item</translation>
     </message>
     <message>
         <source>Create Tracer</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Tracer</translation>
     </message>
     <message>
         <source>Creates a tracer that follows an item</source>
-        <translation type="unfinished"></translation>
+        <translation>Creates a tracer that follows an item</translation>
     </message>
     <message>
         <source>Shoot Item</source>
-        <translation type="unfinished"></translation>
+        <translation>Shoot Item</translation>
     </message>
     <message>
         <source>Shoots an item</source>
-        <translation type="unfinished"></translation>
+        <translation>Shoots an item</translation>
     </message>
     <message>
         <source>Create Plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Plot</translation>
     </message>
     <message>
         <source>Creates a plot for a given item</source>
-        <translation type="unfinished"></translation>
+        <translation>Creates a plot for a given item</translation>
     </message>
     <message>
         <source>Create Rectangle</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Rectangle</translation>
     </message>
     <message>
         <source>Creates a rectangle</source>
-        <translation type="unfinished"></translation>
+        <translation>Creates a rectangle</translation>
     </message>
     <message>
         <source>Create Circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Circle</translation>
     </message>
     <message>
         <source>Creates a circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Creates a circle</translation>
     </message>
     <message>
         <source>Create Polygon</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Polygon</translation>
     </message>
     <message>
         <source>Creates a polygon</source>
-        <translation type="unfinished"></translation>
+        <translation>Creates a polygon</translation>
     </message>
     <message>
         <source>Create Balloon</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Balloon</translation>
     </message>
     <message>
         <source>Creates a balloon</source>
-        <translation type="unfinished"></translation>
+        <translation>Creates a balloon</translation>
     </message>
     <message>
         <source>Create freehand shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Create freehand shape</translation>
     </message>
     <message>
         <source>Freehand drawing of random shapes</source>
-        <translation type="unfinished"></translation>
+        <translation>Freehand drawing of random shapes</translation>
     </message>
     <message>
         <source>Create Chain</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Chain</translation>
     </message>
     <message>
         <source>Creates a chain</source>
-        <translation type="unfinished"></translation>
+        <translation>Creates a chain</translation>
     </message>
     <message>
         <source>Create Rope</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Rope</translation>
     </message>
     <message>
         <source>Creates a rope</source>
-        <translation type="unfinished"></translation>
+        <translation>Creates a rope</translation>
     </message>
     <message>
         <source>Create Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Text</translation>
     </message>
     <message>
         <source>Creates items from text</source>
-        <translation type="unfinished"></translation>
+        <translation>Creates items from text</translation>
     </message>
     <message>
         <source>Create Gear</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Gear</translation>
     </message>
     <message>
         <source>Creates a gear</source>
-        <translation type="unfinished"></translation>
+        <translation>Creates a gear</translation>
     </message>
     <message>
         <source>Create Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Image</translation>
     </message>
     <message>
         <source>Creates a shape based on the outline of a (png) image</source>
-        <translation type="unfinished"></translation>
+        <translation>Creates a shape based on the outline of a (png) image</translation>
     </message>
     <message>
         <source>Create Distance Joint</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Distance Joint</translation>
     </message>
     <message>
         <source>Creates a distance joint between two items (or an item and the background)</source>
-        <translation type="unfinished"></translation>
+        <translation>Creates a distance joint between two items (or an item and the background)</translation>
     </message>
     <message>
         <source>Create Revolute Joint</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Revolute Joint</translation>
     </message>
     <message>
         <source>Creates a revolute joint between two items (or an item and the background)</source>
-        <translation type="unfinished"></translation>
+        <translation>Creates a revolute joint between two items (or an item and the background)</translation>
     </message>
     <message>
         <source>Create Prismatic Joint</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Prismatic Joint</translation>
     </message>
     <message>
         <source>Creates a prismatic joint between two items</source>
-        <translation type="unfinished"></translation>
+        <translation>Creates a prismatic joint between two items</translation>
     </message>
     <message>
         <source>Create Pulley Joint</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Pulley Joint</translation>
     </message>
     <message>
         <source>Creates a pulley joint between two items</source>
-        <translation type="unfinished"></translation>
+        <translation>Creates a pulley joint between two items</translation>
     </message>
     <message>
         <source>Create Spring</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Spring</translation>
     </message>
     <message>
         <source>Creates a spring between two items</source>
-        <translation type="unfinished"></translation>
+        <translation>Creates a spring between two items</translation>
     </message>
     <message>
         <source>Union</source>
-        <translation type="unfinished"></translation>
+        <translation>Union</translation>
     </message>
     <message>
         <source>Creates an item from the union of two other items</source>
-        <translation type="unfinished"></translation>
+        <translation>Creates an item from the union of two other items</translation>
     </message>
     <message>
         <source>Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Difference</translation>
     </message>
     <message>
         <source>Creates an item from the difference of two other items</source>
-        <translation type="unfinished"></translation>
+        <translation>Creates an item from the difference of two other items</translation>
     </message>
     <message>
         <source>Intersection</source>
-        <translation type="unfinished"></translation>
+        <translation>Intersection</translation>
     </message>
     <message>
         <source>Creates an item from the intersection of two other items</source>
-        <translation type="unfinished"></translation>
+        <translation>Creates an item from the intersection of two other items</translation>
     </message>
     <message>
         <source>General Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>General Toolbar</translation>
     </message>
     <message>
         <source>Bodies Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Bodies Toolbar</translation>
     </message>
     <message>
         <source>Joints Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Joints Toolbar</translation>
     </message>
     <message>
         <source>Forces Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Forces Toolbar</translation>
     </message>
     <message>
         <source>Boolean Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Boolean Toolbar</translation>
     </message>
     <message>
         <source>Snap Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Snap Toolbar</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Settings</translation>
     </message>
     <message>
         <source>Console</source>
-        <translation type="unfinished"></translation>
+        <translation>Console</translation>
     </message>
     <message>
         <source>Scene Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Scene Properties</translation>
     </message>
     <message>
         <source>Property Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Property Editor</translation>
     </message>
     <message>
         <source>Quick Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Quick Load</translation>
     </message>
     <message>
         <source>Commands History</source>
-        <translation type="unfinished"></translation>
+        <translation>Commands History</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;File</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Edit</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;View</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom</translation>
     </message>
     <message>
         <source>Toolbars</source>
-        <translation type="unfinished"></translation>
+        <translation>Toolbars</translation>
     </message>
     <message>
         <source>Dock Widgets</source>
-        <translation type="unfinished"></translation>
+        <translation>Dock Widgets</translation>
     </message>
     <message>
         <source>Perspectives</source>
-        <translation type="unfinished"></translation>
+        <translation>Perspectives</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Help</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Ready</translation>
     </message>
     <message>
         <source>Action Context Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Action Context Toolbar</translation>
     </message>
     <message>
         <source>New file created</source>
-        <translation type="unfinished"></translation>
+        <translation>New file created</translation>
     </message>
     <message>
         <source>File saved (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>File saved (%1)</translation>
     </message>
     <message>
         <source>File loaded (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>File loaded (%1)</translation>
     </message>
     <message>
         <source>%1 - %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 - %2</translation>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Load</translation>
     </message>
     <message>
         <source>*.script</source>
-        <translation type="unfinished"></translation>
+        <translation>*.script</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Save</translation>
     </message>
     <message>
         <source>Stop Script</source>
-        <translation type="unfinished"></translation>
+        <translation>Stop Script</translation>
     </message>
     <message>
         <source>Stops the script that is running (Escape)</source>
-        <translation type="unfinished"></translation>
+        <translation>Stops the script that is running (Escape)</translation>
+    </message>
+</context>
+<context>
+    <name>PhysicsWorldPropertiesWidget</name>
+    <message>
+        <source>Gravity</source>
+        <translation>Gravity</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Step Frequency</source>
+        <translation>Step Frequency</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation> Hz</translation>
+    </message>
+    <message>
+        <source>Iterations</source>
+        <translation>Iterations</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>Velocity</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Warm Starting</source>
+        <translation>Warm Starting</translation>
+    </message>
+    <message>
+        <source>Continuous Physics</source>
+        <translation>Continuous Physics</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Seconds</translation>
+    </message>
+    <message>
+        <source>Bodies</source>
+        <translation>Bodies</translation>
+    </message>
+    <message>
+        <source>Joints</source>
+        <translation>Joints</translation>
     </message>
 </context>
 <context>
     <name>PlayPauseAction</name>
     <message>
         <source>Play/Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Play/Pause</translation>
     </message>
 </context>
 <context>
     <name>PlotAction</name>
     <message>
         <source>Create Plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Plot</translation>
     </message>
 </context>
 <context>
     <name>PlotWidget</name>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Speed</translation>
     </message>
     <message>
         <source>Acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Acceleration</translation>
     </message>
     <message>
         <source>Time (sec)</source>
-        <translation type="unfinished"></translation>
+        <translation>Time (sec)</translation>
     </message>
     <message>
         <source>Speed (m/sec)</source>
-        <translation type="unfinished"></translation>
+        <translation>Speed (m/sec)</translation>
     </message>
 </context>
 <context>
     <name>PolygonAction</name>
     <message>
         <source>Create Polygon</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Polygon</translation>
     </message>
 </context>
 <context>
     <name>PolygonClipper</name>
     <message>
         <source>Clipper Failed...</source>
-        <translation type="unfinished"></translation>
+        <translation>Clipper Failed...</translation>
     </message>
 </context>
 <context>
     <name>PrismaticJointAction</name>
     <message>
         <source>Create Prismatic Joint</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Prismatic Joint</translation>
     </message>
 </context>
 <context>
     <name>PropertyDelegate</name>
     <message>
         <source>Select Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Select Color</translation>
     </message>
 </context>
 <context>
     <name>PropertyEditorWidget</name>
     <message>
         <source>&lt;div align=&apos;right&apos;&gt;&lt;i&gt;&lt;font size=&apos;10px&apos;&gt;(Edit properties with double-click)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;div align=&apos;right&apos;&gt;&lt;i&gt;&lt;font size=&apos;10px&apos;&gt;(Edit properties with double-click)&lt;/font&gt;&lt;/i&gt;&lt;/div&gt;</translation>
     </message>
     <message>
         <source>Brush</source>
-        <translation type="unfinished"></translation>
+        <translation>Brush</translation>
     </message>
     <message>
         <source>Select</source>
-        <translation type="unfinished"></translation>
+        <translation>Select</translation>
     </message>
     <message>
         <source>Specify the filter categories that %1 belongs to.</source>
-        <translation type="unfinished"></translation>
+        <translation>Specify the filter categories that %1 belongs to.</translation>
     </message>
     <message>
         <source>Specify the filter categories that %1 collides with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Specify the filter categories that %1 collides with.</translation>
     </message>
 </context>
 <context>
     <name>PropertyModel</name>
     <message>
         <source>Property</source>
-        <translation type="unfinished"></translation>
+        <translation>Property</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Value</translation>
     </message>
 </context>
 <context>
     <name>PulleyJointAction</name>
     <message>
         <source>Create Pulley Joint</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Pulley Joint</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>Version: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Version: %1</translation>
     </message>
     <message>
         <source>Made by the Brivane Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Made by the Brivane Project</translation>
     </message>
     <message>
         <source>Balloon</source>
-        <translation type="unfinished"></translation>
+        <translation>Balloon</translation>
     </message>
     <message>
         <source>Circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Circle</translation>
     </message>
     <message>
         <source>Distance Joint</source>
-        <translation type="unfinished"></translation>
+        <translation>Distance Joint</translation>
     </message>
     <message>
         <source>Linear Impulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Linear Impulse</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Play</translation>
     </message>
     <message>
         <source>Polygon</source>
-        <translation type="unfinished"></translation>
+        <translation>Polygon</translation>
     </message>
     <message>
         <source>Prismatic Joint</source>
-        <translation type="unfinished"></translation>
+        <translation>Prismatic Joint</translation>
     </message>
     <message>
         <source>Pulley Joint</source>
-        <translation type="unfinished"></translation>
+        <translation>Pulley Joint</translation>
     </message>
     <message>
         <source>Rectangle</source>
-        <translation type="unfinished"></translation>
+        <translation>Rectangle</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Remove</translation>
     </message>
     <message>
         <source>Revolute Joint</source>
-        <translation type="unfinished"></translation>
+        <translation>Revolute Joint</translation>
     </message>
     <message>
         <source>Spring Force</source>
-        <translation type="unfinished"></translation>
+        <translation>Spring Force</translation>
     </message>
     <message>
         <source>Gear</source>
-        <translation type="unfinished"></translation>
+        <translation>Gear</translation>
     </message>
     <message>
         <source>Union</source>
-        <translation type="unfinished"></translation>
+        <translation>Union</translation>
     </message>
     <message>
         <source>Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Difference</translation>
     </message>
     <message>
         <source>Intersection</source>
-        <translation type="unfinished"></translation>
+        <translation>Intersection</translation>
     </message>
     <message>
         <source>Circlify</source>
-        <translation type="unfinished"></translation>
+        <translation>Circlify</translation>
     </message>
     <message>
         <source>Erase</source>
-        <translation type="unfinished"></translation>
+        <translation>Erase</translation>
     </message>
     <message>
         <source>Not exploded: %1 pieces would be made, more than %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Not exploded: %1 pieces would be made, more than %2.</translation>
     </message>
     <message>
         <source>Squarify</source>
-        <translation type="unfinished"></translation>
+        <translation>Squarify</translation>
     </message>
     <message>
         <source>Triangulate</source>
-        <translation type="unfinished"></translation>
+        <translation>Triangulate</translation>
     </message>
     <message>
         <source>Chain</source>
-        <translation type="unfinished"></translation>
+        <translation>Chain</translation>
     </message>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Image</translation>
     </message>
     <message>
         <source>Rope</source>
-        <translation type="unfinished"></translation>
+        <translation>Rope</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
 </context>
 <context>
     <name>RectangleAction</name>
     <message>
         <source>Create Rectangle</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Rectangle</translation>
     </message>
     <message>
         <source>width=%1
 height=%2</source>
-        <translation type="unfinished"></translation>
+        <translation>width=%1
+height=%2</translation>
     </message>
 </context>
 <context>
     <name>RemoveAction</name>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Remove</translation>
     </message>
 </context>
 <context>
     <name>RevoluteJointAction</name>
     <message>
         <source>Create Revolute Joint</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Revolute Joint</translation>
     </message>
 </context>
 <context>
     <name>RevoluteJointContextWidget</name>
     <message>
         <source>Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Radius</translation>
     </message>
 </context>
 <context>
     <name>RopeAction</name>
     <message>
         <source>Create Rope</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Rope</translation>
     </message>
 </context>
 <context>
     <name>RopeContextWidget</name>
     <message>
         <source>Rectangle Width</source>
-        <translation type="unfinished"></translation>
+        <translation>Rectangle Width</translation>
+    </message>
+</context>
+<context>
+    <name>ScenePropertiesWidget</name>
+    <message>
+        <source>Physics World</source>
+        <translation>Physics World</translation>
+    </message>
+    <message>
+        <source>Graphics View</source>
+        <translation>Graphics View</translation>
     </message>
 </context>
 <context>
     <name>SelectAction</name>
     <message>
         <source>Select/Move</source>
-        <translation type="unfinished"></translation>
+        <translation>Select/Move</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWidget</name>
+    <message>
+        <source>Settings</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>Graphics</translation>
+    </message>
+    <message>
+        <source>Use OpenGL</source>
+        <translation>Use OpenGL</translation>
+    </message>
+    <message>
+        <source>Antialiasing</source>
+        <translation>Antialiasing</translation>
+    </message>
+    <message>
+        <source>Physics</source>
+        <translation>Physics</translation>
+    </message>
+    <message>
+        <source>Timer Interval</source>
+        <translation>Timer Interval</translation>
+    </message>
+    <message>
+        <source>Bodies Defaults</source>
+        <translation>Bodies Defaults</translation>
+    </message>
+    <message>
+        <source>Linear Damping</source>
+        <translation>Linear Damping</translation>
+    </message>
+    <message>
+        <source>Angular Damping</source>
+        <translation>Angular Damping</translation>
+    </message>
+    <message>
+        <source>Friction</source>
+        <translation>Friction</translation>
+    </message>
+    <message>
+        <source>Restitution</source>
+        <translation>Restitution</translation>
+    </message>
+    <message>
+        <source>Allow Sleep</source>
+        <translation>Allow Sleep</translation>
+    </message>
+    <message>
+        <source>Is Bullet</source>
+        <translation>Is Bullet</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>GUI Style</source>
+        <translation>GUI Style</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <source>Create ground on start-up</source>
+        <translation>Create ground on start-up</translation>
+    </message>
+    <message>
+        <source>Show scale indicator</source>
+        <translation>Show scale indicator</translation>
+    </message>
+    <message>
+        <source>Show tips at start-up</source>
+        <translation>Show tips at start-up</translation>
+    </message>
+    <message>
+        <source>Attach script debugger</source>
+        <translation>Attach script debugger</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>SnapWidget</name>
+    <message>
+        <source>Snap To Grid (F9)</source>
+        <translation>Snap To Grid (F9)</translation>
+    </message>
+    <message>
+        <source>Snaps to grid</source>
+        <translation>Snaps to grid</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Size:</translation>
+    </message>
+    <message>
+        <source>Snap To Objects (F10)</source>
+        <translation>Snap To Objects (F10)</translation>
+    </message>
+    <message>
+        <source>Snaps to objects</source>
+        <translation>Snaps to objects</translation>
+    </message>
+    <message>
+        <source>Distance:</source>
+        <translation>Distance:</translation>
     </message>
 </context>
 <context>
     <name>SpringForceAction</name>
     <message>
         <source>Create Spring</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Spring</translation>
     </message>
 </context>
 <context>
     <name>SpringForceContextWidget</name>
     <message>
         <source>K</source>
-        <translation type="unfinished"></translation>
+        <translation>K</translation>
     </message>
     <message>
         <source>Damping</source>
-        <translation type="unfinished"></translation>
+        <translation>Damping</translation>
     </message>
 </context>
 <context>
     <name>StatusBar</name>
     <message>
         <source>&lt;B&gt;FPS&lt;/B&gt;: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;B&gt;FPS&lt;/B&gt;: %1</translation>
     </message>
     <message>
         <source>&lt;B&gt;X&lt;/B&gt;: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;B&gt;X&lt;/B&gt;: %1</translation>
     </message>
     <message>
         <source>&lt;B&gt;Y&lt;/B&gt;: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;B&gt;Y&lt;/B&gt;: %1</translation>
     </message>
 </context>
 <context>
     <name>TextAction</name>
     <message>
         <source>Create Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Create Text</translation>
     </message>
 </context>
 <context>
     <name>TextContextWidget</name>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Font Family</source>
-        <translation type="unfinished"></translation>
+        <translation>Font Family</translation>
     </message>
     <message>
         <source>Font Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Font Size</translation>
     </message>
 </context>
 <context>
     <name>UnionAction</name>
     <message>
         <source>Union</source>
-        <translation type="unfinished"></translation>
+        <translation>Union</translation>
     </message>
 </context>
 <context>
     <name>XMLReader</name>
     <message>
         <source>Trying to load a scene which was created with another version of the application. </source>
-        <translation type="unfinished"></translation>
+        <translation>Trying to load a scene which was created with another version of the application. </translation>
     </message>
     <message>
         <source>(Scene version: %1 Application version: %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Scene version: %1 Application version: %2)</translation>
     </message>
 </context>
 <context>
     <name>XPolygonF</name>
     <message>
         <source>Skipped %1 triangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Skipped %1 triangles</translation>
     </message>
 </context>
 </TS>

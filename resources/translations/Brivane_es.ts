@@ -211,6 +211,13 @@
     </message>
 </context>
 <context>
+    <name>CameraGraphicsView</name>
+    <message>
+        <source>Camera for %1</source>
+        <translation>Cámara de %1</translation>
+    </message>
+</context>
+<context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
@@ -335,6 +342,25 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>GraphicsViewPropertiesWidget</name>
+    <message>
+        <source>Background</source>
+        <translation>Fondo</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Seleccionar...</translation>
+    </message>
+    <message>
+        <source>Body With Camera</source>
+        <translation>Cuerpo con cámara</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Escala</translation>
     </message>
 </context>
 <context>
@@ -939,6 +965,65 @@
     </message>
 </context>
 <context>
+    <name>PhysicsWorldPropertiesWidget</name>
+    <message>
+        <source>Gravity</source>
+        <translation>Gravedad</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Step Frequency</source>
+        <translation>Frecuencia de paso</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation> Hz</translation>
+    </message>
+    <message>
+        <source>Iterations</source>
+        <translation>Iteraciones</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posición</translation>
+    </message>
+    <message>
+        <source>Warm Starting</source>
+        <translation>Arranque en caliente</translation>
+    </message>
+    <message>
+        <source>Continuous Physics</source>
+        <translation>Física continua</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Información</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Segundos</translation>
+    </message>
+    <message>
+        <source>Bodies</source>
+        <translation>Cuerpos</translation>
+    </message>
+    <message>
+        <source>Joints</source>
+        <translation>Uniones</translation>
+    </message>
+</context>
+<context>
     <name>PlayPauseAction</name>
     <message>
         <source>Play/Pause</source>
@@ -1200,10 +1285,135 @@ alto=%2</translation>
     </message>
 </context>
 <context>
+    <name>ScenePropertiesWidget</name>
+    <message>
+        <source>Physics World</source>
+        <translation>Mundo físico</translation>
+    </message>
+    <message>
+        <source>Graphics View</source>
+        <translation>Vista</translation>
+    </message>
+</context>
+<context>
     <name>SelectAction</name>
     <message>
         <source>Select/Move</source>
         <translation>Seleccionar/Mover</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWidget</name>
+    <message>
+        <source>Settings</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>Gráficos</translation>
+    </message>
+    <message>
+        <source>Use OpenGL</source>
+        <translation>Usar OpenGL</translation>
+    </message>
+    <message>
+        <source>Antialiasing</source>
+        <translation>Suavizado</translation>
+    </message>
+    <message>
+        <source>Physics</source>
+        <translation>Física</translation>
+    </message>
+    <message>
+        <source>Timer Interval</source>
+        <translation>Intervalo del temporizador</translation>
+    </message>
+    <message>
+        <source>Bodies Defaults</source>
+        <translation>Valores por defecto de los cuerpos</translation>
+    </message>
+    <message>
+        <source>Linear Damping</source>
+        <translation>Amortiguación lineal</translation>
+    </message>
+    <message>
+        <source>Angular Damping</source>
+        <translation>Amortiguación angular</translation>
+    </message>
+    <message>
+        <source>Friction</source>
+        <translation>Fricción</translation>
+    </message>
+    <message>
+        <source>Restitution</source>
+        <translation>Restitución</translation>
+    </message>
+    <message>
+        <source>Allow Sleep</source>
+        <translation>Permitir reposo</translation>
+    </message>
+    <message>
+        <source>Is Bullet</source>
+        <translation>Es proyectil</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>GUI Style</source>
+        <translation>Estilo de la interfaz</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>Create ground on start-up</source>
+        <translation>Crear suelo al iniciar</translation>
+    </message>
+    <message>
+        <source>Show scale indicator</source>
+        <translation>Mostrar indicador de escala</translation>
+    </message>
+    <message>
+        <source>Show tips at start-up</source>
+        <translation>Mostrar consejos al iniciar</translation>
+    </message>
+    <message>
+        <source>Attach script debugger</source>
+        <translation>Conectar el depurador de scripts</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>SnapWidget</name>
+    <message>
+        <source>Snap To Grid (F9)</source>
+        <translation>Ajustar a la cuadrícula (F9)</translation>
+    </message>
+    <message>
+        <source>Snaps to grid</source>
+        <translation>Ajusta a la cuadrícula</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Tamaño:</translation>
+    </message>
+    <message>
+        <source>Snap To Objects (F10)</source>
+        <translation>Ajustar a los objetos (F10)</translation>
+    </message>
+    <message>
+        <source>Snaps to objects</source>
+        <translation>Ajusta a los objetos</translation>
+    </message>
+    <message>
+        <source>Distance:</source>
+        <translation>Distancia:</translation>
     </message>
 </context>
 <context>

@@ -211,6 +211,13 @@
     </message>
 </context>
 <context>
+    <name>CameraGraphicsView</name>
+    <message>
+        <source>Camera for %1</source>
+        <translation>Caméra pour %1</translation>
+    </message>
+</context>
+<context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
@@ -285,7 +292,7 @@
     <name>ExplodeContextWidget</name>
     <message>
         <source>Explode Method</source>
-        <translation>Méthode d'explosion</translation>
+        <translation>Méthode d&apos;explosion</translation>
     </message>
     <message>
         <source>Size</source>
@@ -335,6 +342,25 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>GraphicsViewPropertiesWidget</name>
+    <message>
+        <source>Background</source>
+        <translation>Arrière-plan</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Choisir...</translation>
+    </message>
+    <message>
+        <source>Body With Camera</source>
+        <translation>Corps suivi</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Échelle</translation>
     </message>
 </context>
 <context>
@@ -408,7 +434,7 @@
     <name>LinkContextWidget</name>
     <message>
         <source>Attach Point</source>
-        <translation>Point d'attache</translation>
+        <translation>Point d&apos;attache</translation>
     </message>
     <message>
         <source>First</source>
@@ -939,6 +965,65 @@
     </message>
 </context>
 <context>
+    <name>PhysicsWorldPropertiesWidget</name>
+    <message>
+        <source>Gravity</source>
+        <translation>Gravité</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Step Frequency</source>
+        <translation>Fréquence des pas</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation> Hz</translation>
+    </message>
+    <message>
+        <source>Iterations</source>
+        <translation>Itérations</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Warm Starting</source>
+        <translation>Démarrage à chaud</translation>
+    </message>
+    <message>
+        <source>Continuous Physics</source>
+        <translation>Physique continue</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Informations</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Secondes</translation>
+    </message>
+    <message>
+        <source>Bodies</source>
+        <translation>Corps</translation>
+    </message>
+    <message>
+        <source>Joints</source>
+        <translation>Liaisons</translation>
+    </message>
+</context>
+<context>
     <name>PlayPauseAction</name>
     <message>
         <source>Play/Pause</source>
@@ -1200,10 +1285,135 @@ hauteur=%2</translation>
     </message>
 </context>
 <context>
+    <name>ScenePropertiesWidget</name>
+    <message>
+        <source>Physics World</source>
+        <translation>Monde physique</translation>
+    </message>
+    <message>
+        <source>Graphics View</source>
+        <translation>Vue</translation>
+    </message>
+</context>
+<context>
     <name>SelectAction</name>
     <message>
         <source>Select/Move</source>
         <translation>Sélectionner/Déplacer</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWidget</name>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>Graphisme</translation>
+    </message>
+    <message>
+        <source>Use OpenGL</source>
+        <translation>Utiliser OpenGL</translation>
+    </message>
+    <message>
+        <source>Antialiasing</source>
+        <translation>Anticrénelage</translation>
+    </message>
+    <message>
+        <source>Physics</source>
+        <translation>Physique</translation>
+    </message>
+    <message>
+        <source>Timer Interval</source>
+        <translation>Intervalle du minuteur</translation>
+    </message>
+    <message>
+        <source>Bodies Defaults</source>
+        <translation>Valeurs par défaut des corps</translation>
+    </message>
+    <message>
+        <source>Linear Damping</source>
+        <translation>Amortissement linéaire</translation>
+    </message>
+    <message>
+        <source>Angular Damping</source>
+        <translation>Amortissement angulaire</translation>
+    </message>
+    <message>
+        <source>Friction</source>
+        <translation>Frottement</translation>
+    </message>
+    <message>
+        <source>Restitution</source>
+        <translation>Restitution</translation>
+    </message>
+    <message>
+        <source>Allow Sleep</source>
+        <translation>Autoriser le repos</translation>
+    </message>
+    <message>
+        <source>Is Bullet</source>
+        <translation>Est un projectile</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>GUI Style</source>
+        <translation>Style de l&apos;interface</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Create ground on start-up</source>
+        <translation>Créer le sol au démarrage</translation>
+    </message>
+    <message>
+        <source>Show scale indicator</source>
+        <translation>Afficher l&apos;échelle</translation>
+    </message>
+    <message>
+        <source>Show tips at start-up</source>
+        <translation>Afficher les astuces au démarrage</translation>
+    </message>
+    <message>
+        <source>Attach script debugger</source>
+        <translation>Attacher le débogueur de scripts</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>SnapWidget</name>
+    <message>
+        <source>Snap To Grid (F9)</source>
+        <translation>Aimanter à la grille (F9)</translation>
+    </message>
+    <message>
+        <source>Snaps to grid</source>
+        <translation>Aimante à la grille</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Taille :</translation>
+    </message>
+    <message>
+        <source>Snap To Objects (F10)</source>
+        <translation>Aimanter aux objets (F10)</translation>
+    </message>
+    <message>
+        <source>Snaps to objects</source>
+        <translation>Aimante aux objets</translation>
+    </message>
+    <message>
+        <source>Distance:</source>
+        <translation>Distance :</translation>
     </message>
 </context>
 <context>

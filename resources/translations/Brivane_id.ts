@@ -211,6 +211,13 @@
     </message>
 </context>
 <context>
+    <name>CameraGraphicsView</name>
+    <message>
+        <source>Camera for %1</source>
+        <translation>Kamera untuk %1</translation>
+    </message>
+</context>
+<context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
@@ -335,6 +342,25 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>GraphicsViewPropertiesWidget</name>
+    <message>
+        <source>Background</source>
+        <translation>Latar belakang</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Pilih...</translation>
+    </message>
+    <message>
+        <source>Body With Camera</source>
+        <translation>Benda berkamera</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Skala</translation>
     </message>
 </context>
 <context>
@@ -939,6 +965,65 @@
     </message>
 </context>
 <context>
+    <name>PhysicsWorldPropertiesWidget</name>
+    <message>
+        <source>Gravity</source>
+        <translation>Gravitasi</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Step Frequency</source>
+        <translation>Frekuensi langkah</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation> Hz</translation>
+    </message>
+    <message>
+        <source>Iterations</source>
+        <translation>Iterasi</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>Kecepatan</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posisi</translation>
+    </message>
+    <message>
+        <source>Warm Starting</source>
+        <translation>Mulai hangat</translation>
+    </message>
+    <message>
+        <source>Continuous Physics</source>
+        <translation>Fisika kontinu</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Informasi</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Detik</translation>
+    </message>
+    <message>
+        <source>Bodies</source>
+        <translation>Benda</translation>
+    </message>
+    <message>
+        <source>Joints</source>
+        <translation>Sendi</translation>
+    </message>
+</context>
+<context>
     <name>PlayPauseAction</name>
     <message>
         <source>Play/Pause</source>
@@ -1200,10 +1285,135 @@ tinggi=%2</translation>
     </message>
 </context>
 <context>
+    <name>ScenePropertiesWidget</name>
+    <message>
+        <source>Physics World</source>
+        <translation>Dunia fisika</translation>
+    </message>
+    <message>
+        <source>Graphics View</source>
+        <translation>Tampilan</translation>
+    </message>
+</context>
+<context>
     <name>SelectAction</name>
     <message>
         <source>Select/Move</source>
         <translation>Pilih/Pindahkan</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWidget</name>
+    <message>
+        <source>Settings</source>
+        <translation>Pengaturan</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>Grafis</translation>
+    </message>
+    <message>
+        <source>Use OpenGL</source>
+        <translation>Gunakan OpenGL</translation>
+    </message>
+    <message>
+        <source>Antialiasing</source>
+        <translation>Antialiasing</translation>
+    </message>
+    <message>
+        <source>Physics</source>
+        <translation>Fisika</translation>
+    </message>
+    <message>
+        <source>Timer Interval</source>
+        <translation>Interval pewaktu</translation>
+    </message>
+    <message>
+        <source>Bodies Defaults</source>
+        <translation>Bawaan benda</translation>
+    </message>
+    <message>
+        <source>Linear Damping</source>
+        <translation>Redaman linear</translation>
+    </message>
+    <message>
+        <source>Angular Damping</source>
+        <translation>Redaman sudut</translation>
+    </message>
+    <message>
+        <source>Friction</source>
+        <translation>Gesekan</translation>
+    </message>
+    <message>
+        <source>Restitution</source>
+        <translation>Restitusi</translation>
+    </message>
+    <message>
+        <source>Allow Sleep</source>
+        <translation>Izinkan tidur</translation>
+    </message>
+    <message>
+        <source>Is Bullet</source>
+        <translation>Adalah peluru</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Umum</translation>
+    </message>
+    <message>
+        <source>GUI Style</source>
+        <translation>Gaya antarmuka</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Bahasa</translation>
+    </message>
+    <message>
+        <source>Create ground on start-up</source>
+        <translation>Buat tanah saat mulai</translation>
+    </message>
+    <message>
+        <source>Show scale indicator</source>
+        <translation>Tampilkan penunjuk skala</translation>
+    </message>
+    <message>
+        <source>Show tips at start-up</source>
+        <translation>Tampilkan kiat saat mulai</translation>
+    </message>
+    <message>
+        <source>Attach script debugger</source>
+        <translation>Pasang debugger skrip</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 md</translation>
+    </message>
+</context>
+<context>
+    <name>SnapWidget</name>
+    <message>
+        <source>Snap To Grid (F9)</source>
+        <translation>Tempel ke kisi (F9)</translation>
+    </message>
+    <message>
+        <source>Snaps to grid</source>
+        <translation>Menempel ke kisi</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Ukuran:</translation>
+    </message>
+    <message>
+        <source>Snap To Objects (F10)</source>
+        <translation>Tempel ke objek (F10)</translation>
+    </message>
+    <message>
+        <source>Snaps to objects</source>
+        <translation>Menempel ke objek</translation>
+    </message>
+    <message>
+        <source>Distance:</source>
+        <translation>Jarak:</translation>
     </message>
 </context>
 <context>

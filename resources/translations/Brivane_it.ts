@@ -211,6 +211,13 @@
     </message>
 </context>
 <context>
+    <name>CameraGraphicsView</name>
+    <message>
+        <source>Camera for %1</source>
+        <translation>Telecamera per %1</translation>
+    </message>
+</context>
+<context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
@@ -335,6 +342,25 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>GraphicsViewPropertiesWidget</name>
+    <message>
+        <source>Background</source>
+        <translation>Sfondo</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Scegli...</translation>
+    </message>
+    <message>
+        <source>Body With Camera</source>
+        <translation>Corpo con telecamera</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Scala</translation>
     </message>
 </context>
 <context>
@@ -939,6 +965,65 @@
     </message>
 </context>
 <context>
+    <name>PhysicsWorldPropertiesWidget</name>
+    <message>
+        <source>Gravity</source>
+        <translation>Gravità</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Step Frequency</source>
+        <translation>Frequenza dei passi</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation> Hz</translation>
+    </message>
+    <message>
+        <source>Iterations</source>
+        <translation>Iterazioni</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>Velocità</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posizione</translation>
+    </message>
+    <message>
+        <source>Warm Starting</source>
+        <translation>Avvio a caldo</translation>
+    </message>
+    <message>
+        <source>Continuous Physics</source>
+        <translation>Fisica continua</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Informazioni</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Secondi</translation>
+    </message>
+    <message>
+        <source>Bodies</source>
+        <translation>Corpi</translation>
+    </message>
+    <message>
+        <source>Joints</source>
+        <translation>Giunti</translation>
+    </message>
+</context>
+<context>
     <name>PlayPauseAction</name>
     <message>
         <source>Play/Pause</source>
@@ -1200,10 +1285,135 @@ altezza=%2</translation>
     </message>
 </context>
 <context>
+    <name>ScenePropertiesWidget</name>
+    <message>
+        <source>Physics World</source>
+        <translation>Mondo fisico</translation>
+    </message>
+    <message>
+        <source>Graphics View</source>
+        <translation>Vista</translation>
+    </message>
+</context>
+<context>
     <name>SelectAction</name>
     <message>
         <source>Select/Move</source>
         <translation>Seleziona/Sposta</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWidget</name>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>Grafica</translation>
+    </message>
+    <message>
+        <source>Use OpenGL</source>
+        <translation>Usa OpenGL</translation>
+    </message>
+    <message>
+        <source>Antialiasing</source>
+        <translation>Antialiasing</translation>
+    </message>
+    <message>
+        <source>Physics</source>
+        <translation>Fisica</translation>
+    </message>
+    <message>
+        <source>Timer Interval</source>
+        <translation>Intervallo del timer</translation>
+    </message>
+    <message>
+        <source>Bodies Defaults</source>
+        <translation>Valori predefiniti dei corpi</translation>
+    </message>
+    <message>
+        <source>Linear Damping</source>
+        <translation>Smorzamento lineare</translation>
+    </message>
+    <message>
+        <source>Angular Damping</source>
+        <translation>Smorzamento angolare</translation>
+    </message>
+    <message>
+        <source>Friction</source>
+        <translation>Attrito</translation>
+    </message>
+    <message>
+        <source>Restitution</source>
+        <translation>Restituzione</translation>
+    </message>
+    <message>
+        <source>Allow Sleep</source>
+        <translation>Consenti riposo</translation>
+    </message>
+    <message>
+        <source>Is Bullet</source>
+        <translation>È un proiettile</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Generale</translation>
+    </message>
+    <message>
+        <source>GUI Style</source>
+        <translation>Stile dell&apos;interfaccia</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Lingua</translation>
+    </message>
+    <message>
+        <source>Create ground on start-up</source>
+        <translation>Crea il terreno all&apos;avvio</translation>
+    </message>
+    <message>
+        <source>Show scale indicator</source>
+        <translation>Mostra l&apos;indicatore di scala</translation>
+    </message>
+    <message>
+        <source>Show tips at start-up</source>
+        <translation>Mostra i suggerimenti all&apos;avvio</translation>
+    </message>
+    <message>
+        <source>Attach script debugger</source>
+        <translation>Collega il debugger degli script</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>SnapWidget</name>
+    <message>
+        <source>Snap To Grid (F9)</source>
+        <translation>Aggancia alla griglia (F9)</translation>
+    </message>
+    <message>
+        <source>Snaps to grid</source>
+        <translation>Aggancia alla griglia</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Dimensione:</translation>
+    </message>
+    <message>
+        <source>Snap To Objects (F10)</source>
+        <translation>Aggancia agli oggetti (F10)</translation>
+    </message>
+    <message>
+        <source>Snaps to objects</source>
+        <translation>Aggancia agli oggetti</translation>
+    </message>
+    <message>
+        <source>Distance:</source>
+        <translation>Distanza:</translation>
     </message>
 </context>
 <context>

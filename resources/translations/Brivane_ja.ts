@@ -211,6 +211,13 @@
     </message>
 </context>
 <context>
+    <name>CameraGraphicsView</name>
+    <message>
+        <source>Camera for %1</source>
+        <translation>%1 のカメラ</translation>
+    </message>
+</context>
+<context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
@@ -335,6 +342,25 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>GraphicsViewPropertiesWidget</name>
+    <message>
+        <source>Background</source>
+        <translation>背景</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>選択...</translation>
+    </message>
+    <message>
+        <source>Body With Camera</source>
+        <translation>カメラの物体</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>縮尺</translation>
     </message>
 </context>
 <context>
@@ -939,6 +965,65 @@
     </message>
 </context>
 <context>
+    <name>PhysicsWorldPropertiesWidget</name>
+    <message>
+        <source>Gravity</source>
+        <translation>重力</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Step Frequency</source>
+        <translation>ステップ周波数</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation> Hz</translation>
+    </message>
+    <message>
+        <source>Iterations</source>
+        <translation>反復回数</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Warm Starting</source>
+        <translation>ウォームスタート</translation>
+    </message>
+    <message>
+        <source>Continuous Physics</source>
+        <translation>連続衝突判定</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>情報</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>秒</translation>
+    </message>
+    <message>
+        <source>Bodies</source>
+        <translation>物体</translation>
+    </message>
+    <message>
+        <source>Joints</source>
+        <translation>ジョイント</translation>
+    </message>
+</context>
+<context>
     <name>PlayPauseAction</name>
     <message>
         <source>Play/Pause</source>
@@ -1200,10 +1285,135 @@ height=%2</source>
     </message>
 </context>
 <context>
+    <name>ScenePropertiesWidget</name>
+    <message>
+        <source>Physics World</source>
+        <translation>物理ワールド</translation>
+    </message>
+    <message>
+        <source>Graphics View</source>
+        <translation>ビュー</translation>
+    </message>
+</context>
+<context>
     <name>SelectAction</name>
     <message>
         <source>Select/Move</source>
         <translation>選択/移動</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWidget</name>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>グラフィック</translation>
+    </message>
+    <message>
+        <source>Use OpenGL</source>
+        <translation>OpenGL を使う</translation>
+    </message>
+    <message>
+        <source>Antialiasing</source>
+        <translation>アンチエイリアス</translation>
+    </message>
+    <message>
+        <source>Physics</source>
+        <translation>物理</translation>
+    </message>
+    <message>
+        <source>Timer Interval</source>
+        <translation>タイマー間隔</translation>
+    </message>
+    <message>
+        <source>Bodies Defaults</source>
+        <translation>物体の既定値</translation>
+    </message>
+    <message>
+        <source>Linear Damping</source>
+        <translation>直線減衰</translation>
+    </message>
+    <message>
+        <source>Angular Damping</source>
+        <translation>回転減衰</translation>
+    </message>
+    <message>
+        <source>Friction</source>
+        <translation>摩擦</translation>
+    </message>
+    <message>
+        <source>Restitution</source>
+        <translation>反発</translation>
+    </message>
+    <message>
+        <source>Allow Sleep</source>
+        <translation>スリープを許可</translation>
+    </message>
+    <message>
+        <source>Is Bullet</source>
+        <translation>弾丸扱い</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>GUI Style</source>
+        <translation>画面のスタイル</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>Create ground on start-up</source>
+        <translation>起動時に地面を作る</translation>
+    </message>
+    <message>
+        <source>Show scale indicator</source>
+        <translation>縮尺を表示</translation>
+    </message>
+    <message>
+        <source>Show tips at start-up</source>
+        <translation>起動時にヒントを表示</translation>
+    </message>
+    <message>
+        <source>Attach script debugger</source>
+        <translation>スクリプトデバッガーを接続</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ミリ秒</translation>
+    </message>
+</context>
+<context>
+    <name>SnapWidget</name>
+    <message>
+        <source>Snap To Grid (F9)</source>
+        <translation>グリッドに合わせる (F9)</translation>
+    </message>
+    <message>
+        <source>Snaps to grid</source>
+        <translation>グリッドに合わせます</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>大きさ:</translation>
+    </message>
+    <message>
+        <source>Snap To Objects (F10)</source>
+        <translation>物体に合わせる (F10)</translation>
+    </message>
+    <message>
+        <source>Snaps to objects</source>
+        <translation>物体に合わせます</translation>
+    </message>
+    <message>
+        <source>Distance:</source>
+        <translation>距離:</translation>
     </message>
 </context>
 <context>

@@ -211,6 +211,13 @@
     </message>
 </context>
 <context>
+    <name>CameraGraphicsView</name>
+    <message>
+        <source>Camera for %1</source>
+        <translation>Камера для %1</translation>
+    </message>
+</context>
+<context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
@@ -335,6 +342,25 @@
     <message>
         <source>%1 m</source>
         <translation>%1 м</translation>
+    </message>
+</context>
+<context>
+    <name>GraphicsViewPropertiesWidget</name>
+    <message>
+        <source>Background</source>
+        <translation>Фон</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>Выбрать...</translation>
+    </message>
+    <message>
+        <source>Body With Camera</source>
+        <translation>Тело с камерой</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Масштаб</translation>
     </message>
 </context>
 <context>
@@ -939,6 +965,65 @@
     </message>
 </context>
 <context>
+    <name>PhysicsWorldPropertiesWidget</name>
+    <message>
+        <source>Gravity</source>
+        <translation>Гравитация</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Step Frequency</source>
+        <translation>Частота шагов</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation> Гц</translation>
+    </message>
+    <message>
+        <source>Iterations</source>
+        <translation>Итерации</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>Скорость</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Положение</translation>
+    </message>
+    <message>
+        <source>Warm Starting</source>
+        <translation>Тёплый старт</translation>
+    </message>
+    <message>
+        <source>Continuous Physics</source>
+        <translation>Непрерывная физика</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Сведения</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Секунды</translation>
+    </message>
+    <message>
+        <source>Bodies</source>
+        <translation>Тела</translation>
+    </message>
+    <message>
+        <source>Joints</source>
+        <translation>Соединения</translation>
+    </message>
+</context>
+<context>
     <name>PlayPauseAction</name>
     <message>
         <source>Play/Pause</source>
@@ -1200,10 +1285,135 @@ height=%2</source>
     </message>
 </context>
 <context>
+    <name>ScenePropertiesWidget</name>
+    <message>
+        <source>Physics World</source>
+        <translation>Физический мир</translation>
+    </message>
+    <message>
+        <source>Graphics View</source>
+        <translation>Вид</translation>
+    </message>
+</context>
+<context>
     <name>SelectAction</name>
     <message>
         <source>Select/Move</source>
         <translation>Выбрать/Переместить</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWidget</name>
+    <message>
+        <source>Settings</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>Графика</translation>
+    </message>
+    <message>
+        <source>Use OpenGL</source>
+        <translation>Использовать OpenGL</translation>
+    </message>
+    <message>
+        <source>Antialiasing</source>
+        <translation>Сглаживание</translation>
+    </message>
+    <message>
+        <source>Physics</source>
+        <translation>Физика</translation>
+    </message>
+    <message>
+        <source>Timer Interval</source>
+        <translation>Интервал таймера</translation>
+    </message>
+    <message>
+        <source>Bodies Defaults</source>
+        <translation>Значения для новых тел</translation>
+    </message>
+    <message>
+        <source>Linear Damping</source>
+        <translation>Линейное затухание</translation>
+    </message>
+    <message>
+        <source>Angular Damping</source>
+        <translation>Угловое затухание</translation>
+    </message>
+    <message>
+        <source>Friction</source>
+        <translation>Трение</translation>
+    </message>
+    <message>
+        <source>Restitution</source>
+        <translation>Упругость</translation>
+    </message>
+    <message>
+        <source>Allow Sleep</source>
+        <translation>Разрешить сон</translation>
+    </message>
+    <message>
+        <source>Is Bullet</source>
+        <translation>Снаряд</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Общие</translation>
+    </message>
+    <message>
+        <source>GUI Style</source>
+        <translation>Стиль интерфейса</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Язык</translation>
+    </message>
+    <message>
+        <source>Create ground on start-up</source>
+        <translation>Создавать землю при запуске</translation>
+    </message>
+    <message>
+        <source>Show scale indicator</source>
+        <translation>Показывать масштаб</translation>
+    </message>
+    <message>
+        <source>Show tips at start-up</source>
+        <translation>Показывать советы при запуске</translation>
+    </message>
+    <message>
+        <source>Attach script debugger</source>
+        <translation>Подключить отладчик скриптов</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 мс</translation>
+    </message>
+</context>
+<context>
+    <name>SnapWidget</name>
+    <message>
+        <source>Snap To Grid (F9)</source>
+        <translation>Привязка к сетке (F9)</translation>
+    </message>
+    <message>
+        <source>Snaps to grid</source>
+        <translation>Привязывает к сетке</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Размер:</translation>
+    </message>
+    <message>
+        <source>Snap To Objects (F10)</source>
+        <translation>Привязка к объектам (F10)</translation>
+    </message>
+    <message>
+        <source>Snaps to objects</source>
+        <translation>Привязывает к объектам</translation>
+    </message>
+    <message>
+        <source>Distance:</source>
+        <translation>Расстояние:</translation>
     </message>
 </context>
 <context>

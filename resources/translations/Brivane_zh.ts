@@ -211,6 +211,13 @@
     </message>
 </context>
 <context>
+    <name>CameraGraphicsView</name>
+    <message>
+        <source>Camera for %1</source>
+        <translation>%1 的相机</translation>
+    </message>
+</context>
+<context>
     <name>ChainAction</name>
     <message>
         <source>Create Chain</source>
@@ -335,6 +342,25 @@
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>GraphicsViewPropertiesWidget</name>
+    <message>
+        <source>Background</source>
+        <translation>背景</translation>
+    </message>
+    <message>
+        <source>Select...</source>
+        <translation>选择...</translation>
+    </message>
+    <message>
+        <source>Body With Camera</source>
+        <translation>相机跟随的物体</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>比例</translation>
     </message>
 </context>
 <context>
@@ -939,6 +965,65 @@
     </message>
 </context>
 <context>
+    <name>PhysicsWorldPropertiesWidget</name>
+    <message>
+        <source>Gravity</source>
+        <translation>重力</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Step Frequency</source>
+        <translation>步进频率</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation> 赫兹</translation>
+    </message>
+    <message>
+        <source>Iterations</source>
+        <translation>迭代次数</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Warm Starting</source>
+        <translation>热启动</translation>
+    </message>
+    <message>
+        <source>Continuous Physics</source>
+        <translation>连续物理</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>信息</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>秒</translation>
+    </message>
+    <message>
+        <source>Bodies</source>
+        <translation>物体</translation>
+    </message>
+    <message>
+        <source>Joints</source>
+        <translation>关节</translation>
+    </message>
+</context>
+<context>
     <name>PlayPauseAction</name>
     <message>
         <source>Play/Pause</source>
@@ -1200,10 +1285,135 @@ height=%2</source>
     </message>
 </context>
 <context>
+    <name>ScenePropertiesWidget</name>
+    <message>
+        <source>Physics World</source>
+        <translation>物理世界</translation>
+    </message>
+    <message>
+        <source>Graphics View</source>
+        <translation>视图</translation>
+    </message>
+</context>
+<context>
     <name>SelectAction</name>
     <message>
         <source>Select/Move</source>
         <translation>选择/移动</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWidget</name>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>图形</translation>
+    </message>
+    <message>
+        <source>Use OpenGL</source>
+        <translation>使用 OpenGL</translation>
+    </message>
+    <message>
+        <source>Antialiasing</source>
+        <translation>抗锯齿</translation>
+    </message>
+    <message>
+        <source>Physics</source>
+        <translation>物理</translation>
+    </message>
+    <message>
+        <source>Timer Interval</source>
+        <translation>定时器间隔</translation>
+    </message>
+    <message>
+        <source>Bodies Defaults</source>
+        <translation>物体默认值</translation>
+    </message>
+    <message>
+        <source>Linear Damping</source>
+        <translation>线性阻尼</translation>
+    </message>
+    <message>
+        <source>Angular Damping</source>
+        <translation>角阻尼</translation>
+    </message>
+    <message>
+        <source>Friction</source>
+        <translation>摩擦</translation>
+    </message>
+    <message>
+        <source>Restitution</source>
+        <translation>弹性</translation>
+    </message>
+    <message>
+        <source>Allow Sleep</source>
+        <translation>允许休眠</translation>
+    </message>
+    <message>
+        <source>Is Bullet</source>
+        <translation>是子弹</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>GUI Style</source>
+        <translation>界面风格</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Create ground on start-up</source>
+        <translation>启动时创建地面</translation>
+    </message>
+    <message>
+        <source>Show scale indicator</source>
+        <translation>显示比例尺</translation>
+    </message>
+    <message>
+        <source>Show tips at start-up</source>
+        <translation>启动时显示提示</translation>
+    </message>
+    <message>
+        <source>Attach script debugger</source>
+        <translation>附加脚本调试器</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 毫秒</translation>
+    </message>
+</context>
+<context>
+    <name>SnapWidget</name>
+    <message>
+        <source>Snap To Grid (F9)</source>
+        <translation>对齐网格 (F9)</translation>
+    </message>
+    <message>
+        <source>Snaps to grid</source>
+        <translation>对齐到网格</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>大小:</translation>
+    </message>
+    <message>
+        <source>Snap To Objects (F10)</source>
+        <translation>对齐物体 (F10)</translation>
+    </message>
+    <message>
+        <source>Snaps to objects</source>
+        <translation>对齐到物体</translation>
+    </message>
+    <message>
+        <source>Distance:</source>
+        <translation>距离:</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,9 @@
 #include "Application/Settings.h"
 #include "Files/SceneFile.h"
 #include "Gui/PropertyEditorWidget.h"
+#include "Gui/ScenePropertiesWidget.h"
+#include "Gui/SettingsWidget.h"
+#include "Gui/SnapWidget.h"
 #include "Physics/PhysicsItem.h"
 #include "Physics/PhysicsWorld.h"
 #include "Scripting/ConsoleWidget.h"
@@ -275,7 +278,7 @@ const QVector<MainWindow::ToolBarRow>& MainWindow::toolBarRows()
         {"BooleanToolbar",
          QT_TR_NOOP("Boolean Toolbar"),
          {Id::Union, Id::Difference, Id::Intersection}},
-        // The snap buttons arrive with their own widget.
+        // Holds the snap widget alone.
         {"SnapToolbar", QT_TR_NOOP("Snap Toolbar"), {}},
     };
     return rows;
@@ -286,7 +289,7 @@ const QVector<MainWindow::DockRow>& MainWindow::dockRows()
     const Qt::DockWidgetAreas sides = Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea;
     static const QVector<DockRow> rows = {
         {"SettingsDockWidget", QT_TR_NOOP("Settings"),
-         [](MainWindow*) { return placeholderPanel("SettingsWidget"); }, sides,
+         [](MainWindow* window) -> QWidget* { return new SettingsWidget(window->view); }, sides,
          Qt::LeftDockWidgetArea, Qt::ALT | Qt::Key_S, DockRow::HiddenFloating},
         {"ConsoleDockWidget", QT_TR_NOOP("Console"),
          [](MainWindow* window) -> QWidget* {
@@ -296,8 +299,10 @@ const QVector<MainWindow::DockRow>& MainWindow::dockRows()
          },
          Qt::AllDockWidgetAreas, Qt::BottomDockWidgetArea, Qt::Key_AsciiTilde, DockRow::Hidden},
         {"ScenePropertiesDockWidget", QT_TR_NOOP("Scene Properties"),
-         [](MainWindow*) { return placeholderPanel("ScenePropertiesWidget"); }, sides,
-         Qt::LeftDockWidgetArea, Qt::SHIFT | Qt::Key_S, DockRow::Hidden},
+         [](MainWindow* window) -> QWidget* {
+             return new ScenePropertiesWidget(PhysicsWorld::instance(), window->view);
+         },
+         sides, Qt::LeftDockWidgetArea, Qt::SHIFT | Qt::Key_S, DockRow::Hidden},
         {"PropertyEditorDockWidget", QT_TR_NOOP("Property Editor"),
          [](MainWindow* window) -> QWidget* {
              return window->propertyEditor = new PropertyEditorWidget();
@@ -457,11 +462,15 @@ void MainWindow::createToolBars()
         auto* bar = new QToolBar(this);
         bar->setObjectName(QLatin1String(row.objectName));
         addActionList(bar, row.contents);
+        // The snap widget and the strip of the current tool share a line of their own, so
+        // that every tool button fits on the first line of a window 1280 pixels wide.
+        if (&row == &toolBarRows().last()) {
+            bar->addWidget(new SnapWidget(view));
+            addToolBarBreak();
+        }
         addToolBar(bar);
         toolBars.append(bar);
     }
-    // The strip of the current tool has a line of its own.
-    addToolBarBreak();
     contextToolBar = new ActionContextToolBar(QString(), this);
     contextToolBar->setObjectName(QStringLiteral("ActionContextToolbar"));
     addToolBar(contextToolBar);
@@ -607,9 +616,11 @@ void MainWindow::closeEvent(QCloseEvent* event)
 
 void MainWindow::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         retranslate();
-    else if (event->type() == QEvent::WindowStateChange)
+        // A passing message stays in the language it was given in; it goes instead.
+        statusLine->clearMessage();
+    } else if (event->type() == QEvent::WindowStateChange)
         action(ActionId::Fullscreen)->setChecked(isFullScreen());
     QMainWindow::changeEvent(event);
 }

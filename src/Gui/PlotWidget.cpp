@@ -4,6 +4,7 @@
 #include "Physics/BodyItem.h"
 #include "Physics/PhysicsWorld.h"
 
+#include <QEvent>
 #include <QPen>
 #include <cmath>
 #include <qwt_legend.h>
@@ -28,8 +29,8 @@ PlotWidget::PlotWidget(BodyItem* item, PhysicsWorld* world, QWidget* parent)
     : QwtPlot(QwtText(item->name()), parent)
     , body(item)
     , world(world)
-    , speedCurve(new QwtPlotCurve(tr("Speed")))
-    , accelerationCurve(new QwtPlotCurve(tr("Acceleration")))
+    , speedCurve(new QwtPlotCurve())
+    , accelerationCurve(new QwtPlotCurve())
     , speeds(new PlotSamples())
     , accelerations(new PlotSamples())
     , directPainter(new QwtPlotDirectPainter(this))
@@ -44,8 +45,7 @@ PlotWidget::PlotWidget(BodyItem* item, PhysicsWorld* world, QWidget* parent)
     grid->setMajorPen(gridPen(Qt::white));
     grid->setMinorPen(gridPen(Qt::gray));
     grid->attach(this);
-    setAxisTitle(QwtPlot::xBottom, tr("Time (sec)"));
-    setAxisTitle(QwtPlot::yLeft, tr("Speed (m/sec)"));
+    retranslate();
     // The curves own their samples.
     speedCurve->setPen(QPen(Qt::red));
     speedCurve->setData(speeds);
@@ -57,6 +57,21 @@ PlotWidget::PlotWidget(BodyItem* item, PhysicsWorld* world, QWidget* parent)
     setAxisScale(QwtPlot::yLeft, valueRange.lower, valueRange.upper);
     resize(startSize);
     connect(world, &PhysicsWorld::stepFinished, this, &PlotWidget::updatePlot);
+}
+
+void PlotWidget::retranslate()
+{
+    speedCurve->setTitle(tr("Speed"));
+    accelerationCurve->setTitle(tr("Acceleration"));
+    setAxisTitle(QwtPlot::xBottom, tr("Time (sec)"));
+    setAxisTitle(QwtPlot::yLeft, tr("Speed (m/sec)"));
+}
+
+void PlotWidget::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QwtPlot::changeEvent(event);
 }
 
 QVector<QPointF> PlotWidget::speedSamples() const

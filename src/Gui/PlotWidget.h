@@ -25,10 +25,15 @@ public:
     QVector<QPointF> speedSamples() const;
     QVector<QPointF> accelerationSamples() const;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 protected slots:
     void updatePlot();
 
 private:
+    void retranslate();
+
     // An axis's bounds as set here; the plot's own are only known after a replot.
     struct Range
     {

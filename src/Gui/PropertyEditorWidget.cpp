@@ -64,6 +64,8 @@ void PropertyEditorWidget::retranslate()
                           "double-click)</font></i></div>"));
     brushLabel->setText(tr("Brush"));
     selectButton->setText(tr("Select"));
+    // The column titles are asked for when the header paints.
+    editor->header()->viewport()->update();
 }
 
 void PropertyEditorWidget::changeEvent(QEvent* event)

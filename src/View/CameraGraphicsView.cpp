@@ -3,6 +3,7 @@
 #include "Physics/BodyItem.h"
 #include "View/GraphicsView.h"
 
+#include <QEvent>
 #include <QGraphicsItem>
 
 CameraGraphicsView::CameraGraphicsView(BodyItem* pItem, QWidget* parent)
@@ -22,7 +23,20 @@ CameraGraphicsView::CameraGraphicsView(BodyItem* pItem, QWidget* parent)
     // The body fills half of each side at the start.
     const QRectF bounds = pItem->graphicsItem()->boundingRect();
     resize(2 * int(pixelsPerMetre * bounds.width()), 2 * int(pixelsPerMetre * bounds.height()));
-    setWindowTitle(QStringLiteral("Camera for %1").arg(pItem->name()));
+    retranslate();
+}
+
+void CameraGraphicsView::retranslate()
+{
+    if (body)
+        setWindowTitle(tr("Camera for %1").arg(body->name()));
+}
+
+void CameraGraphicsView::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QGraphicsView::changeEvent(event);
 }
 
 void CameraGraphicsView::paintEvent(QPaintEvent* event)

@@ -21,7 +21,10 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void retranslate();
+
     QPointer<BodyItem> body;
 };

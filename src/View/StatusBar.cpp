@@ -2,46 +2,49 @@
 
 #include "Gui/MainWindow.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QPointF>
 
 StatusBar::StatusBar(MainWindow* parent)
     : QStatusBar(parent)
-    , framesPerSecondLabel(addFigureLabel(&StatusBar::framesPerSecondText, 70))
-    , xLabel(addFigureLabel(&StatusBar::xText, 80))
-    , yLabel(addFigureLabel(&StatusBar::yText, 80))
+    , framesPerSecondLabel(addFigureLabel(70))
+    , xLabel(addFigureLabel(80))
+    , yLabel(addFigureLabel(80))
 {
+    showFigures();
 }
 
 void StatusBar::setFramesPerSecond(int framesPerSecond)
 {
-    framesPerSecondLabel->setText(framesPerSecondText(QString::number(framesPerSecond)));
+    this->framesPerSecond = QString::number(framesPerSecond);
+    showFigures();
 }
 
 void StatusBar::setScenePosition(const QPointF& position)
 {
-    xLabel->setText(xText(QString::number(position.x(), 'f', 3)));
-    yLabel->setText(yText(QString::number(position.y(), 'f', 3)));
+    x = QString::number(position.x(), 'f', 3);
+    y = QString::number(position.y(), 'f', 3);
+    showFigures();
 }
 
-QString StatusBar::framesPerSecondText(const QString& value)
+void StatusBar::changeEvent(QEvent* event)
 {
-    return tr("<B>FPS</B>: %1").arg(value);
+    if (event->type() == QEvent::LanguageChange)
+        showFigures();
+    QStatusBar::changeEvent(event);
 }
 
-QString StatusBar::xText(const QString& value)
+void StatusBar::showFigures()
 {
-    return tr("<B>X</B>: %1").arg(value);
+    framesPerSecondLabel->setText(tr("<B>FPS</B>: %1").arg(framesPerSecond));
+    xLabel->setText(tr("<B>X</B>: %1").arg(x));
+    yLabel->setText(tr("<B>Y</B>: %1").arg(y));
 }
 
-QString StatusBar::yText(const QString& value)
+QLabel* StatusBar::addFigureLabel(int width)
 {
-    return tr("<B>Y</B>: %1").arg(value);
-}
-
-QLabel* StatusBar::addFigureLabel(QString (*text)(const QString&), int width)
-{
-    auto* label = new QLabel(text(QStringLiteral("?")), this);
+    auto* label = new QLabel(this);
     label->setFixedWidth(width);
     addPermanentWidget(label, 0);
     return label;

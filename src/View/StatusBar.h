@@ -8,7 +8,8 @@ class QPointF;
 
 // The strip at the foot of the main window: transient messages on the left, and on the right
 // three fixed labels with the view's paint rate and the scene position under the mouse. The
-// labels are children of the bar; the view hands in the figures through the setters.
+// labels are children of the bar; the view hands in the figures through the setters, and the
+// bar keeps them to label them again in another language.
 class StatusBar : public QStatusBar
 {
     Q_OBJECT
@@ -20,14 +21,19 @@ public:
     // A scene position in metres, shown with three decimals.
     void setScenePosition(const QPointF& position);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
-    static QString framesPerSecondText(const QString& value);
-    static QString xText(const QString& value);
-    static QString yText(const QString& value);
-    // A permanent label of fixed width, reading "?" until the first figure arrives.
-    QLabel* addFigureLabel(QString (*text)(const QString&), int width);
+    void showFigures();
+    // A permanent label of fixed width.
+    QLabel* addFigureLabel(int width);
 
     QLabel* framesPerSecondLabel;
     QLabel* xLabel;
     QLabel* yLabel;
+    // As shown; "?" until the first figure arrives.
+    QString framesPerSecond = QStringLiteral("?");
+    QString x = QStringLiteral("?");
+    QString y = QStringLiteral("?");
 };

@@ -26,6 +26,7 @@
 #include <QToolBar>
 #include <QUndoStack>
 #include <QUndoView>
+#include <QWidgetAction>
 
 using Id = MainWindow::ActionId;
 Q_DECLARE_METATYPE(MainWindow::ActionId)
@@ -40,6 +41,8 @@ QStringList entries(const QList<QAction*>& actions)
             list << QStringLiteral("-");
         else if (action->menu())
             list << QStringLiteral("<%1>").arg(action->menu()->title());
+        else if (auto* widget = qobject_cast<QWidgetAction*>(action))
+            list << QStringLiteral("[%1]").arg(widget->defaultWidget()->metaObject()->className());
         else
             list << action->text();
     }
@@ -287,7 +290,7 @@ private slots:
         QTest::newRow("ForcesToolbar") << "Forces Toolbar" << QStringList {"Create Spring"};
         QTest::newRow("BooleanToolbar")
             << "Boolean Toolbar" << QStringList {"Union", "Difference", "Intersection"};
-        QTest::newRow("SnapToolbar") << "Snap Toolbar" << QStringList();
+        QTest::newRow("SnapToolbar") << "Snap Toolbar" << QStringList {"[SnapWidget]"};
         QTest::newRow("ActionContextToolbar") << "Action Context Toolbar" << QStringList();
     }
 
@@ -316,9 +319,9 @@ private slots:
         auto* context = window()->findChild<ActionContextToolBar*>();
         QVERIFY(context);
         QCOMPARE(context->objectName(), QStringLiteral("ActionContextToolbar"));
-        // The strip of the current tool sits on a line of its own.
-        QVERIFY(window()->toolBarBreak(context));
-        QVERIFY(!window()->toolBarBreak(window()->findChild<QToolBar*>("SnapToolbar")));
+        // The snap widget and the strip of the current tool sit on a line of their own.
+        QVERIFY(window()->toolBarBreak(window()->findChild<QToolBar*>("SnapToolbar")));
+        QVERIFY(!window()->toolBarBreak(context));
     }
 
     void dockWidgets_data()

@@ -1,4 +1,5 @@
 #include "Application/Application.h"
+#include "Application/Settings.h"
 #include "Gui/MainWindow.h"
 #include "Gui/PlotWidget.h"
 #include "Gui/PropertyEditorWidget.h"
@@ -12,14 +13,18 @@
 #include "View/GraphicsView.h"
 
 #include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
 #include <QDockWidget>
 #include <QFileInfo>
+#include <QGLWidget>
 #include <QGraphicsItem>
 #include <QLabel>
 #include <QScreen>
 #include <QSet>
 #include <QSignalSpy>
+#include <QTabWidget>
 #include <QTest>
 
 namespace {
@@ -37,6 +42,32 @@ void saveArtifact(const QImage& image, const char* path)
 
 // The scene's floor lies 1 m high under y = 0; this is its middle.
 const QPointF floorPoint(0.0, -0.5);
+
+// The first shown text of `area` that does not fit its widget, or of two of its direct
+// children that overlap, or that rise above `height`; empty when there is none. A change of
+// language lays the widgets out again a little later.
+QString layoutFault(QWidget* area, int height = QWIDGETSIZE_MAX)
+{
+    const QList<QWidget*> children
+        = area->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget* shown : area->findChildren<QWidget*>()) {
+        const QString text = shown->property("text").toString();
+        const bool texted = qobject_cast<QLabel*>(shown) || qobject_cast<QAbstractButton*>(shown);
+        if (shown->isVisible() && texted && !text.isEmpty()
+            && shown->width() < shown->sizeHint().width())
+            return QStringLiteral("clipped: ") + text;
+    }
+    for (QWidget* child : children) {
+        if (child->height() > height)
+            return QStringLiteral("too high: ") + child->metaObject()->className();
+        for (QWidget* other : children) {
+            if (other != child && child->isVisible() && other->isVisible()
+                && other->geometry().intersects(child->geometry()))
+                return QStringLiteral("overlapping: ") + child->metaObject()->className();
+        }
+    }
+    return QString();
+}
 
 bool isWhiteOrBlack(QRgb pixel)
 {
@@ -161,7 +192,64 @@ private slots:
         QCOMPARE(window()->windowTitle(), QStringLiteral("Brivane"));
     }
 
-    // Runs last: it takes the window out of its maximised state.
+    // Switching the viewport while the world runs keeps the scene and the run.
+    void openGLSwitchKeepsTheScene()
+    {
+        PhysicsWorld* world = PhysicsWorld::instance();
+        GraphicsView* view = window()->graphicsView();
+        auto* openGL = window()->findChild<QCheckBox*>(QStringLiteral("openGLCheckBox"));
+        QVERIFY(openGL->isEnabled());
+        const int items = view->scene()->items().size();
+        world->start();
+        for (bool on : {false, true, false}) {
+            openGL->setChecked(on);
+            QCOMPARE(qobject_cast<QGLWidget*>(view->viewport()) != nullptr, on);
+            QCOMPARE(Settings::instance()->useOpenGL, on);
+            QVERIFY(world->running());
+            QCOMPARE(view->scene()->items().size(), items);
+        }
+        world->stop();
+        openGL->setChecked(true);
+    }
+
+    // The tests from here on take the window out of its maximised state, to 1280 pixels wide.
+    // The main window in another language with both panels open, chosen as the user does in
+    // the settings: every text translated and whole.
+    void panelsInAnotherLanguage_data()
+    {
+        QTest::addColumn<int>("language");
+        QTest::addColumn<QString>("artifact");
+        QTest::newRow("German") << int(QLocale::German) << "artifacts/mainwindow-de.png";
+        QTest::newRow("Japanese") << int(QLocale::Japanese) << "artifacts/mainwindow-ja.png";
+    }
+    void panelsInAnotherLanguage()
+    {
+        QFETCH(int, language);
+        QFETCH(QString, artifact);
+        window()->showNormal();
+        window()->resize(1280, 800);
+        auto* settingsDock = window()->findChild<QDockWidget*>("SettingsDockWidget");
+        auto* sceneDock = window()->findChild<QDockWidget*>("ScenePropertiesDockWidget");
+        settingsDock->setFloating(false);
+        window()->addDockWidget(Qt::RightDockWidgetArea, settingsDock);
+        settingsDock->show();
+        sceneDock->show();
+        auto* languages = window()->findChild<QComboBox*>(QStringLiteral("languageComboBox"));
+        languages->setCurrentIndex(languages->findData(language));
+        QCoreApplication::processEvents();
+        QCOMPARE(int(Application::instance()->language()), language);
+        auto* tabs = sceneDock->findChild<QTabWidget*>();
+        QVERIFY(tabs->tabText(0) != QLatin1String("Physics World"));
+        QVERIFY(sceneDock->windowTitle() != QLatin1String("Scene Properties"));
+        QTRY_COMPARE(layoutFault(settingsDock), QString());
+        QTRY_COMPARE(layoutFault(sceneDock), QString());
+        QTest::qWait(200);
+        saveArtifact(screenshot(), qPrintable(artifact));
+        languages->setCurrentIndex(languages->findData(int(QLocale::English)));
+        settingsDock->hide();
+        sceneDock->hide();
+    }
+
     void contextStripsFitANarrowWindow_data()
     {
         QTest::addColumn<MainWindow::ActionId>("tool");
@@ -189,21 +277,7 @@ private slots:
         // Within the bar, not pushed into its overflow menu.
         QVERIFY(QRect(QPoint(0, 0), bar->size())
                     .contains(QRect(strip->mapTo(bar, QPoint(0, 0)), strip->size())));
-        QList<QWidget*> controls;
-        for (QWidget* control :
-             strip->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
-            controls.append(control);
-        for (QWidget* control : controls) {
-            const QString name = QString::fromLatin1(control->metaObject()->className());
-            // Labels and buttons show their whole text.
-            if (qobject_cast<QLabel*>(control) || qobject_cast<QAbstractButton*>(control))
-                QVERIFY2(control->width() >= control->sizeHint().width(), qPrintable(name));
-            QVERIFY2(control->height() <= bar->height(), qPrintable(name));
-            for (QWidget* other : controls) {
-                QVERIFY2(other == control || !other->geometry().intersects(control->geometry()),
-                         qPrintable(name));
-            }
-        }
+        QTRY_COMPARE(layoutFault(strip, bar->height()), QString());
         bar->repaint();
         const QImage shot = screenshot();
         saveArtifact(shot.copy(QRect(bar->mapTo(window(), QPoint(0, 0)), bar->size())),
