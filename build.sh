@@ -14,6 +14,8 @@ packages=(
     qtbase5-dev libqt5svg5-dev libqt5svg5 qtscript5-dev libqt5opengl5-dev qttools5-dev qttools5-dev-tools
     libbox2d-dev libpolyclipping-dev libcgal-dev libgmp-dev libmpfr-dev libquazip5-dev libqwt-qt5-dev
     libbenchmark-dev xvfb xauth libgl1-mesa-dri
+    # The scene repository server, the keyring for its password, and a browser to check its pages.
+    libcpp-httplib-dev libqt5sql5-sqlite qtkeychain-qt5-dev chromium
     # Glyphs for every language the program speaks: Latin, Greek and Cyrillic, Japanese, Chinese.
     fonts-dejavu-core fonts-ipafont-gothic fonts-wqy-zenhei
 )

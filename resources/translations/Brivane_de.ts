@@ -268,6 +268,72 @@
     </message>
 </context>
 <context>
+    <name>DownloadDialog</name>
+    <message>
+        <source>Maximum number of scenes to download</source>
+        <translation>Höchstzahl herunterzuladender Szenen</translation>
+    </message>
+    <message>
+        <source>Save to</source>
+        <translation>Speichern in</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>Download scenes from %1</source>
+        <translation>Szenen von %1 herunterladen</translation>
+    </message>
+    <message>
+        <source>Select Directory</source>
+        <translation>Verzeichnis wählen</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Failed to retrieve file list from server.</source>
+        <translation>Die Dateiliste konnte nicht vom Server geholt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>DownloadProgressDialog</name>
+    <message>
+        <source>Scene Filename</source>
+        <translation>Szenendatei</translation>
+    </message>
+    <message>
+        <source>Download Information</source>
+        <translation>Download-Information</translation>
+    </message>
+    <message>
+        <source>Refused: not a file of this folder.</source>
+        <translation>Abgelehnt: keine Datei dieses Ordners.</translation>
+    </message>
+    <message>
+        <source>Download Progress</source>
+        <translation>Download-Fortschritt</translation>
+    </message>
+    <message>
+        <source>Successfully downloaded.</source>
+        <translation>Erfolgreich heruntergeladen.</translation>
+    </message>
+    <message>
+        <source>Already downloaded.</source>
+        <translation>Bereits heruntergeladen.</translation>
+    </message>
+    <message>
+        <source>Failed to open file for writing.</source>
+        <translation>Die Datei konnte nicht zum Schreiben geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Refused: larger than %1 MB.</source>
+        <translation>Abgelehnt: größer als %1 MB.</translation>
+    </message>
+</context>
+<context>
     <name>EraseAction</name>
     <message>
         <source>Erase Item</source>
@@ -963,6 +1029,16 @@
         <source>Stops the script that is running (Escape)</source>
         <translation>Hält das laufende Skript an (Escape)</translation>
     </message>
+    <message>
+        <source>Upload Scene</source>
+        <translation>Szene hochladen</translation>
+    </message>
+    <message>
+        <source>The scene needs to be saved before uploading.
+Please save the scene and try again.</source>
+        <translation>Die Szene muss vor dem Hochladen gespeichert werden.
+Bitte speichern Sie die Szene und versuchen Sie es erneut.</translation>
+    </message>
 </context>
 <context>
     <name>PhysicsWorldPropertiesWidget</name>
@@ -1237,6 +1313,21 @@
     </message>
 </context>
 <context>
+    <name>QuickLoadWidget</name>
+    <message>
+        <source>Icon SIze</source>
+        <translation>Symbolgröße</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>Verzeichnis öffnen</translation>
+    </message>
+</context>
+<context>
     <name>RectangleAction</name>
     <message>
         <source>Create Rectangle</source>
@@ -1476,6 +1567,119 @@ Höhe=%2</translation>
     <message>
         <source>Union</source>
         <translation>Vereinigung</translation>
+    </message>
+</context>
+<context>
+    <name>UploadDialog</name>
+    <message>
+        <source>Basic</source>
+        <translation>Grundlegend</translation>
+    </message>
+    <message>
+        <source>Upload As</source>
+        <translation>Hochladen als</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Anmeldung</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>Optional</source>
+        <translation>Optional</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Kategorie</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Stichwörter</translation>
+    </message>
+    <message>
+        <source>Uploading: %p%</source>
+        <translation>Hochladen: %p%</translation>
+    </message>
+    <message>
+        <source>Bug Report</source>
+        <translation>Fehlerbericht</translation>
+    </message>
+    <message>
+        <source>Educational</source>
+        <translation>Lehrreich</translation>
+    </message>
+    <message>
+        <source>Mechanisms</source>
+        <translation>Mechanismen</translation>
+    </message>
+    <message>
+        <source>Ragdolls</source>
+        <translation>Gliederpuppen</translation>
+    </message>
+    <message>
+        <source>Vehicles</source>
+        <translation>Fahrzeuge</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Anonymous User</source>
+        <translation>Anonymer Benutzer</translation>
+    </message>
+    <message>
+        <source>Registered User</source>
+        <translation>Registrierter Benutzer</translation>
+    </message>
+    <message>
+        <source>If you don&apos;t already have an account, you can create one &lt;a href=&apos;%1&apos;&gt;here&lt;/a&gt;</source>
+        <translation>Wenn Sie noch kein Konto haben, können Sie &lt;a href=&apos;%1&apos;&gt;hier&lt;/a&gt; eines anlegen</translation>
+    </message>
+    <message>
+        <source>Upload %1</source>
+        <translation>%1 hochladen</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Please fill in username and password</source>
+        <translation>Bitte Benutzername und Passwort eingeben</translation>
+    </message>
+    <message>
+        <source>Bad reply from server</source>
+        <translation>Ungültige Antwort vom Server</translation>
+    </message>
+    <message>
+        <source>Could not reach the scene repository: %1</source>
+        <translation>Das Szenenarchiv ist nicht erreichbar: %1</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>Erfolg</translation>
+    </message>
+    <message>
+        <source>Your scene has been successfully uploaded &lt;a href=&apos;%1&apos;&gt;here&lt;/a&gt;.</source>
+        <translation>Ihre Szene wurde erfolgreich &lt;a href=&apos;%1&apos;&gt;hierhin&lt;/a&gt; hochgeladen.</translation>
+    </message>
+    <message>
+        <source>The server replied with the following message:
+%1</source>
+        <translation>Der Server antwortete mit folgender Nachricht:
+%1</translation>
     </message>
 </context>
 <context>

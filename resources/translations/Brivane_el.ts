@@ -268,6 +268,72 @@
     </message>
 </context>
 <context>
+    <name>DownloadDialog</name>
+    <message>
+        <source>Maximum number of scenes to download</source>
+        <translation>Μέγιστος αριθμός σκηνών για λήψη</translation>
+    </message>
+    <message>
+        <source>Save to</source>
+        <translation>Αποθήκευση σε</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Αναζήτηση...</translation>
+    </message>
+    <message>
+        <source>Download scenes from %1</source>
+        <translation>Λήψη σκηνών από %1</translation>
+    </message>
+    <message>
+        <source>Select Directory</source>
+        <translation>Επιλογή φακέλου</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Σφάλμα</translation>
+    </message>
+    <message>
+        <source>Failed to retrieve file list from server.</source>
+        <translation>Αποτυχία λήψης της λίστας αρχείων από τον διακομιστή.</translation>
+    </message>
+</context>
+<context>
+    <name>DownloadProgressDialog</name>
+    <message>
+        <source>Scene Filename</source>
+        <translation>Αρχείο σκηνής</translation>
+    </message>
+    <message>
+        <source>Download Information</source>
+        <translation>Πληροφορίες λήψης</translation>
+    </message>
+    <message>
+        <source>Refused: not a file of this folder.</source>
+        <translation>Απορρίφθηκε: δεν είναι αρχείο αυτού του φακέλου.</translation>
+    </message>
+    <message>
+        <source>Download Progress</source>
+        <translation>Πρόοδος λήψης</translation>
+    </message>
+    <message>
+        <source>Successfully downloaded.</source>
+        <translation>Η λήψη ολοκληρώθηκε.</translation>
+    </message>
+    <message>
+        <source>Already downloaded.</source>
+        <translation>Έχει ήδη ληφθεί.</translation>
+    </message>
+    <message>
+        <source>Failed to open file for writing.</source>
+        <translation>Αποτυχία ανοίγματος αρχείου για εγγραφή.</translation>
+    </message>
+    <message>
+        <source>Refused: larger than %1 MB.</source>
+        <translation>Απορρίφθηκε: μεγαλύτερο από %1 MB.</translation>
+    </message>
+</context>
+<context>
     <name>EraseAction</name>
     <message>
         <source>Erase Item</source>
@@ -963,6 +1029,16 @@
         <source>Stops the script that is running (Escape)</source>
         <translation>Σταματά το σενάριο που εκτελείται (Escape)</translation>
     </message>
+    <message>
+        <source>Upload Scene</source>
+        <translation>Μεταφόρτωση σκηνής</translation>
+    </message>
+    <message>
+        <source>The scene needs to be saved before uploading.
+Please save the scene and try again.</source>
+        <translation>Η σκηνή πρέπει να αποθηκευτεί πριν τη μεταφόρτωση.
+Αποθηκεύστε τη σκηνή και δοκιμάστε ξανά.</translation>
+    </message>
 </context>
 <context>
     <name>PhysicsWorldPropertiesWidget</name>
@@ -1237,6 +1313,21 @@
     </message>
 </context>
 <context>
+    <name>QuickLoadWidget</name>
+    <message>
+        <source>Icon SIze</source>
+        <translation>Μέγεθος εικονιδίων</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Αναζήτηση...</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>Άνοιγμα φακέλου</translation>
+    </message>
+</context>
+<context>
     <name>RectangleAction</name>
     <message>
         <source>Create Rectangle</source>
@@ -1476,6 +1567,119 @@ height=%2</source>
     <message>
         <source>Union</source>
         <translation>Ένωση</translation>
+    </message>
+</context>
+<context>
+    <name>UploadDialog</name>
+    <message>
+        <source>Basic</source>
+        <translation>Βασικά</translation>
+    </message>
+    <message>
+        <source>Upload As</source>
+        <translation>Μεταφόρτωση ως</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Σύνδεση</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Όνομα χρήστη</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Κωδικός</translation>
+    </message>
+    <message>
+        <source>Optional</source>
+        <translation>Προαιρετικά</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Κατηγορία</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Περιγραφή</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Λέξεις-κλειδιά</translation>
+    </message>
+    <message>
+        <source>Uploading: %p%</source>
+        <translation>Μεταφόρτωση: %p%</translation>
+    </message>
+    <message>
+        <source>Bug Report</source>
+        <translation>Αναφορά σφάλματος</translation>
+    </message>
+    <message>
+        <source>Educational</source>
+        <translation>Εκπαιδευτικό</translation>
+    </message>
+    <message>
+        <source>Mechanisms</source>
+        <translation>Μηχανισμοί</translation>
+    </message>
+    <message>
+        <source>Ragdolls</source>
+        <translation>Κούκλες</translation>
+    </message>
+    <message>
+        <source>Vehicles</source>
+        <translation>Οχήματα</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Γενικά</translation>
+    </message>
+    <message>
+        <source>Anonymous User</source>
+        <translation>Ανώνυμος χρήστης</translation>
+    </message>
+    <message>
+        <source>Registered User</source>
+        <translation>Εγγεγραμμένος χρήστης</translation>
+    </message>
+    <message>
+        <source>If you don&apos;t already have an account, you can create one &lt;a href=&apos;%1&apos;&gt;here&lt;/a&gt;</source>
+        <translation>Αν δεν έχετε ήδη λογαριασμό, μπορείτε να δημιουργήσετε έναν &lt;a href=&apos;%1&apos;&gt;εδώ&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Upload %1</source>
+        <translation>Μεταφόρτωση %1</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Σφάλμα</translation>
+    </message>
+    <message>
+        <source>Please fill in username and password</source>
+        <translation>Συμπληρώστε όνομα χρήστη και κωδικό</translation>
+    </message>
+    <message>
+        <source>Bad reply from server</source>
+        <translation>Μη έγκυρη απάντηση από τον διακομιστή</translation>
+    </message>
+    <message>
+        <source>Could not reach the scene repository: %1</source>
+        <translation>Δεν ήταν δυνατή η σύνδεση με το αποθετήριο σκηνών: %1</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>Επιτυχία</translation>
+    </message>
+    <message>
+        <source>Your scene has been successfully uploaded &lt;a href=&apos;%1&apos;&gt;here&lt;/a&gt;.</source>
+        <translation>Η σκηνή σας μεταφορτώθηκε με επιτυχία &lt;a href=&apos;%1&apos;&gt;εδώ&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>The server replied with the following message:
+%1</source>
+        <translation>Ο διακομιστής απάντησε με το εξής μήνυμα:
+%1</translation>
     </message>
 </context>
 <context>

@@ -268,6 +268,72 @@
     </message>
 </context>
 <context>
+    <name>DownloadDialog</name>
+    <message>
+        <source>Maximum number of scenes to download</source>
+        <translation>Maximum number of scenes to download</translation>
+    </message>
+    <message>
+        <source>Save to</source>
+        <translation>Save to</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Browse...</translation>
+    </message>
+    <message>
+        <source>Download scenes from %1</source>
+        <translation>Download scenes from %1</translation>
+    </message>
+    <message>
+        <source>Select Directory</source>
+        <translation>Select Directory</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Failed to retrieve file list from server.</source>
+        <translation>Failed to retrieve file list from server.</translation>
+    </message>
+</context>
+<context>
+    <name>DownloadProgressDialog</name>
+    <message>
+        <source>Scene Filename</source>
+        <translation>Scene Filename</translation>
+    </message>
+    <message>
+        <source>Download Information</source>
+        <translation>Download Information</translation>
+    </message>
+    <message>
+        <source>Refused: not a file of this folder.</source>
+        <translation>Refused: not a file of this folder.</translation>
+    </message>
+    <message>
+        <source>Download Progress</source>
+        <translation>Download Progress</translation>
+    </message>
+    <message>
+        <source>Successfully downloaded.</source>
+        <translation>Successfully downloaded.</translation>
+    </message>
+    <message>
+        <source>Already downloaded.</source>
+        <translation>Already downloaded.</translation>
+    </message>
+    <message>
+        <source>Failed to open file for writing.</source>
+        <translation>Failed to open file for writing.</translation>
+    </message>
+    <message>
+        <source>Refused: larger than %1 MB.</source>
+        <translation>Refused: larger than %1 MB.</translation>
+    </message>
+</context>
+<context>
     <name>EraseAction</name>
     <message>
         <source>Erase Item</source>
@@ -963,6 +1029,16 @@
         <source>Stops the script that is running (Escape)</source>
         <translation>Stops the script that is running (Escape)</translation>
     </message>
+    <message>
+        <source>Upload Scene</source>
+        <translation>Upload Scene</translation>
+    </message>
+    <message>
+        <source>The scene needs to be saved before uploading.
+Please save the scene and try again.</source>
+        <translation>The scene needs to be saved before uploading.
+Please save the scene and try again.</translation>
+    </message>
 </context>
 <context>
     <name>PhysicsWorldPropertiesWidget</name>
@@ -1237,6 +1313,21 @@
     </message>
 </context>
 <context>
+    <name>QuickLoadWidget</name>
+    <message>
+        <source>Icon SIze</source>
+        <translation>Icon SIze</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Browse...</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>Open Directory</translation>
+    </message>
+</context>
+<context>
     <name>RectangleAction</name>
     <message>
         <source>Create Rectangle</source>
@@ -1476,6 +1567,119 @@ height=%2</translation>
     <message>
         <source>Union</source>
         <translation>Union</translation>
+    </message>
+</context>
+<context>
+    <name>UploadDialog</name>
+    <message>
+        <source>Basic</source>
+        <translation>Basic</translation>
+    </message>
+    <message>
+        <source>Upload As</source>
+        <translation>Upload As</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Login</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Username</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>Optional</source>
+        <translation>Optional</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Category</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Keywords</translation>
+    </message>
+    <message>
+        <source>Uploading: %p%</source>
+        <translation>Uploading: %p%</translation>
+    </message>
+    <message>
+        <source>Bug Report</source>
+        <translation>Bug Report</translation>
+    </message>
+    <message>
+        <source>Educational</source>
+        <translation>Educational</translation>
+    </message>
+    <message>
+        <source>Mechanisms</source>
+        <translation>Mechanisms</translation>
+    </message>
+    <message>
+        <source>Ragdolls</source>
+        <translation>Ragdolls</translation>
+    </message>
+    <message>
+        <source>Vehicles</source>
+        <translation>Vehicles</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Anonymous User</source>
+        <translation>Anonymous User</translation>
+    </message>
+    <message>
+        <source>Registered User</source>
+        <translation>Registered User</translation>
+    </message>
+    <message>
+        <source>If you don&apos;t already have an account, you can create one &lt;a href=&apos;%1&apos;&gt;here&lt;/a&gt;</source>
+        <translation>If you don&apos;t already have an account, you can create one &lt;a href=&apos;%1&apos;&gt;here&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Upload %1</source>
+        <translation>Upload %1</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Please fill in username and password</source>
+        <translation>Please fill in username and password</translation>
+    </message>
+    <message>
+        <source>Bad reply from server</source>
+        <translation>Bad reply from server</translation>
+    </message>
+    <message>
+        <source>Could not reach the scene repository: %1</source>
+        <translation>Could not reach the scene repository: %1</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>Success</translation>
+    </message>
+    <message>
+        <source>Your scene has been successfully uploaded &lt;a href=&apos;%1&apos;&gt;here&lt;/a&gt;.</source>
+        <translation>Your scene has been successfully uploaded &lt;a href=&apos;%1&apos;&gt;here&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>The server replied with the following message:
+%1</source>
+        <translation>The server replied with the following message:
+%1</translation>
     </message>
 </context>
 <context>

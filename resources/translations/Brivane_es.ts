@@ -268,6 +268,72 @@
     </message>
 </context>
 <context>
+    <name>DownloadDialog</name>
+    <message>
+        <source>Maximum number of scenes to download</source>
+        <translation>Número máximo de escenas a descargar</translation>
+    </message>
+    <message>
+        <source>Save to</source>
+        <translation>Guardar en</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Examinar...</translation>
+    </message>
+    <message>
+        <source>Download scenes from %1</source>
+        <translation>Descargar escenas de %1</translation>
+    </message>
+    <message>
+        <source>Select Directory</source>
+        <translation>Seleccionar carpeta</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Failed to retrieve file list from server.</source>
+        <translation>No se pudo obtener la lista de archivos del servidor.</translation>
+    </message>
+</context>
+<context>
+    <name>DownloadProgressDialog</name>
+    <message>
+        <source>Scene Filename</source>
+        <translation>Archivo de escena</translation>
+    </message>
+    <message>
+        <source>Download Information</source>
+        <translation>Información de la descarga</translation>
+    </message>
+    <message>
+        <source>Refused: not a file of this folder.</source>
+        <translation>Rechazado: no es un archivo de esta carpeta.</translation>
+    </message>
+    <message>
+        <source>Download Progress</source>
+        <translation>Progreso de la descarga</translation>
+    </message>
+    <message>
+        <source>Successfully downloaded.</source>
+        <translation>Descargado correctamente.</translation>
+    </message>
+    <message>
+        <source>Already downloaded.</source>
+        <translation>Ya descargado.</translation>
+    </message>
+    <message>
+        <source>Failed to open file for writing.</source>
+        <translation>No se pudo abrir el archivo para escribir.</translation>
+    </message>
+    <message>
+        <source>Refused: larger than %1 MB.</source>
+        <translation>Rechazado: mayor que %1 MB.</translation>
+    </message>
+</context>
+<context>
     <name>EraseAction</name>
     <message>
         <source>Erase Item</source>
@@ -963,6 +1029,16 @@
         <source>Stops the script that is running (Escape)</source>
         <translation>Detiene el script en ejecución (Escape)</translation>
     </message>
+    <message>
+        <source>Upload Scene</source>
+        <translation>Subir escena</translation>
+    </message>
+    <message>
+        <source>The scene needs to be saved before uploading.
+Please save the scene and try again.</source>
+        <translation>La escena debe guardarse antes de subirla.
+Guarde la escena e inténtelo de nuevo.</translation>
+    </message>
 </context>
 <context>
     <name>PhysicsWorldPropertiesWidget</name>
@@ -1237,6 +1313,21 @@
     </message>
 </context>
 <context>
+    <name>QuickLoadWidget</name>
+    <message>
+        <source>Icon SIze</source>
+        <translation>Tamaño de icono</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Examinar...</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>Abrir carpeta</translation>
+    </message>
+</context>
+<context>
     <name>RectangleAction</name>
     <message>
         <source>Create Rectangle</source>
@@ -1476,6 +1567,119 @@ alto=%2</translation>
     <message>
         <source>Union</source>
         <translation>Unión</translation>
+    </message>
+</context>
+<context>
+    <name>UploadDialog</name>
+    <message>
+        <source>Basic</source>
+        <translation>Básico</translation>
+    </message>
+    <message>
+        <source>Upload As</source>
+        <translation>Subir como</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Inicio de sesión</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Usuario</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Contraseña</translation>
+    </message>
+    <message>
+        <source>Optional</source>
+        <translation>Opcional</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Categoría</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Descripción</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Palabras clave</translation>
+    </message>
+    <message>
+        <source>Uploading: %p%</source>
+        <translation>Subiendo: %p%</translation>
+    </message>
+    <message>
+        <source>Bug Report</source>
+        <translation>Informe de error</translation>
+    </message>
+    <message>
+        <source>Educational</source>
+        <translation>Educativo</translation>
+    </message>
+    <message>
+        <source>Mechanisms</source>
+        <translation>Mecanismos</translation>
+    </message>
+    <message>
+        <source>Ragdolls</source>
+        <translation>Muñecos</translation>
+    </message>
+    <message>
+        <source>Vehicles</source>
+        <translation>Vehículos</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Anonymous User</source>
+        <translation>Usuario anónimo</translation>
+    </message>
+    <message>
+        <source>Registered User</source>
+        <translation>Usuario registrado</translation>
+    </message>
+    <message>
+        <source>If you don&apos;t already have an account, you can create one &lt;a href=&apos;%1&apos;&gt;here&lt;/a&gt;</source>
+        <translation>Si aún no tiene una cuenta, puede crear una &lt;a href=&apos;%1&apos;&gt;aquí&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Upload %1</source>
+        <translation>Subir %1</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Please fill in username and password</source>
+        <translation>Introduzca usuario y contraseña</translation>
+    </message>
+    <message>
+        <source>Bad reply from server</source>
+        <translation>Respuesta no válida del servidor</translation>
+    </message>
+    <message>
+        <source>Could not reach the scene repository: %1</source>
+        <translation>No se pudo acceder al repositorio de escenas: %1</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>Éxito</translation>
+    </message>
+    <message>
+        <source>Your scene has been successfully uploaded &lt;a href=&apos;%1&apos;&gt;here&lt;/a&gt;.</source>
+        <translation>Su escena se ha subido correctamente &lt;a href=&apos;%1&apos;&gt;aquí&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>The server replied with the following message:
+%1</source>
+        <translation>El servidor respondió con el siguiente mensaje:
+%1</translation>
     </message>
 </context>
 <context>

@@ -268,6 +268,72 @@
     </message>
 </context>
 <context>
+    <name>DownloadDialog</name>
+    <message>
+        <source>Maximum number of scenes to download</source>
+        <translation>Nombre maximal de scènes à télécharger</translation>
+    </message>
+    <message>
+        <source>Save to</source>
+        <translation>Enregistrer dans</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Parcourir...</translation>
+    </message>
+    <message>
+        <source>Download scenes from %1</source>
+        <translation>Télécharger des scènes depuis %1</translation>
+    </message>
+    <message>
+        <source>Select Directory</source>
+        <translation>Choisir un dossier</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Failed to retrieve file list from server.</source>
+        <translation>Impossible d&apos;obtenir la liste des fichiers du serveur.</translation>
+    </message>
+</context>
+<context>
+    <name>DownloadProgressDialog</name>
+    <message>
+        <source>Scene Filename</source>
+        <translation>Fichier de scène</translation>
+    </message>
+    <message>
+        <source>Download Information</source>
+        <translation>Informations de téléchargement</translation>
+    </message>
+    <message>
+        <source>Refused: not a file of this folder.</source>
+        <translation>Refusé : pas un fichier de ce dossier.</translation>
+    </message>
+    <message>
+        <source>Download Progress</source>
+        <translation>Progression du téléchargement</translation>
+    </message>
+    <message>
+        <source>Successfully downloaded.</source>
+        <translation>Téléchargé avec succès.</translation>
+    </message>
+    <message>
+        <source>Already downloaded.</source>
+        <translation>Déjà téléchargé.</translation>
+    </message>
+    <message>
+        <source>Failed to open file for writing.</source>
+        <translation>Impossible d&apos;ouvrir le fichier en écriture.</translation>
+    </message>
+    <message>
+        <source>Refused: larger than %1 MB.</source>
+        <translation>Refusé : plus de %1 Mo.</translation>
+    </message>
+</context>
+<context>
     <name>EraseAction</name>
     <message>
         <source>Erase Item</source>
@@ -963,6 +1029,16 @@
         <source>Stops the script that is running (Escape)</source>
         <translation>Arrête le script en cours d&apos;exécution (Échap)</translation>
     </message>
+    <message>
+        <source>Upload Scene</source>
+        <translation>Envoyer la scène</translation>
+    </message>
+    <message>
+        <source>The scene needs to be saved before uploading.
+Please save the scene and try again.</source>
+        <translation>La scène doit être enregistrée avant l&apos;envoi.
+Enregistrez la scène et réessayez.</translation>
+    </message>
 </context>
 <context>
     <name>PhysicsWorldPropertiesWidget</name>
@@ -1237,6 +1313,21 @@
     </message>
 </context>
 <context>
+    <name>QuickLoadWidget</name>
+    <message>
+        <source>Icon SIze</source>
+        <translation>Taille des icônes</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Parcourir...</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>Ouvrir un dossier</translation>
+    </message>
+</context>
+<context>
     <name>RectangleAction</name>
     <message>
         <source>Create Rectangle</source>
@@ -1476,6 +1567,119 @@ hauteur=%2</translation>
     <message>
         <source>Union</source>
         <translation>Union</translation>
+    </message>
+</context>
+<context>
+    <name>UploadDialog</name>
+    <message>
+        <source>Basic</source>
+        <translation>Essentiel</translation>
+    </message>
+    <message>
+        <source>Upload As</source>
+        <translation>Envoyer en tant que</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Nom d&apos;utilisateur</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>Optional</source>
+        <translation>Facultatif</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Catégorie</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Mots-clés</translation>
+    </message>
+    <message>
+        <source>Uploading: %p%</source>
+        <translation>Envoi : %p%</translation>
+    </message>
+    <message>
+        <source>Bug Report</source>
+        <translation>Rapport de bogue</translation>
+    </message>
+    <message>
+        <source>Educational</source>
+        <translation>Éducatif</translation>
+    </message>
+    <message>
+        <source>Mechanisms</source>
+        <translation>Mécanismes</translation>
+    </message>
+    <message>
+        <source>Ragdolls</source>
+        <translation>Pantins</translation>
+    </message>
+    <message>
+        <source>Vehicles</source>
+        <translation>Véhicules</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Anonymous User</source>
+        <translation>Utilisateur anonyme</translation>
+    </message>
+    <message>
+        <source>Registered User</source>
+        <translation>Utilisateur inscrit</translation>
+    </message>
+    <message>
+        <source>If you don&apos;t already have an account, you can create one &lt;a href=&apos;%1&apos;&gt;here&lt;/a&gt;</source>
+        <translation>Si vous n&apos;avez pas encore de compte, vous pouvez en créer un &lt;a href=&apos;%1&apos;&gt;ici&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Upload %1</source>
+        <translation>Envoyer %1</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Please fill in username and password</source>
+        <translation>Veuillez saisir le nom d&apos;utilisateur et le mot de passe</translation>
+    </message>
+    <message>
+        <source>Bad reply from server</source>
+        <translation>Réponse invalide du serveur</translation>
+    </message>
+    <message>
+        <source>Could not reach the scene repository: %1</source>
+        <translation>Impossible de joindre le dépôt de scènes : %1</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>Succès</translation>
+    </message>
+    <message>
+        <source>Your scene has been successfully uploaded &lt;a href=&apos;%1&apos;&gt;here&lt;/a&gt;.</source>
+        <translation>Votre scène a bien été envoyée &lt;a href=&apos;%1&apos;&gt;ici&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>The server replied with the following message:
+%1</source>
+        <translation>Le serveur a répondu par le message suivant :
+%1</translation>
     </message>
 </context>
 <context>

@@ -268,6 +268,72 @@
     </message>
 </context>
 <context>
+    <name>DownloadDialog</name>
+    <message>
+        <source>Maximum number of scenes to download</source>
+        <translation>Jumlah maksimum adegan yang diunduh</translation>
+    </message>
+    <message>
+        <source>Save to</source>
+        <translation>Simpan ke</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Telusuri...</translation>
+    </message>
+    <message>
+        <source>Download scenes from %1</source>
+        <translation>Unduh adegan dari %1</translation>
+    </message>
+    <message>
+        <source>Select Directory</source>
+        <translation>Pilih folder</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Galat</translation>
+    </message>
+    <message>
+        <source>Failed to retrieve file list from server.</source>
+        <translation>Gagal mengambil daftar berkas dari server.</translation>
+    </message>
+</context>
+<context>
+    <name>DownloadProgressDialog</name>
+    <message>
+        <source>Scene Filename</source>
+        <translation>Berkas adegan</translation>
+    </message>
+    <message>
+        <source>Download Information</source>
+        <translation>Informasi unduhan</translation>
+    </message>
+    <message>
+        <source>Refused: not a file of this folder.</source>
+        <translation>Ditolak: bukan berkas folder ini.</translation>
+    </message>
+    <message>
+        <source>Download Progress</source>
+        <translation>Kemajuan unduhan</translation>
+    </message>
+    <message>
+        <source>Successfully downloaded.</source>
+        <translation>Berhasil diunduh.</translation>
+    </message>
+    <message>
+        <source>Already downloaded.</source>
+        <translation>Sudah diunduh.</translation>
+    </message>
+    <message>
+        <source>Failed to open file for writing.</source>
+        <translation>Gagal membuka berkas untuk ditulis.</translation>
+    </message>
+    <message>
+        <source>Refused: larger than %1 MB.</source>
+        <translation>Ditolak: lebih dari %1 MB.</translation>
+    </message>
+</context>
+<context>
     <name>EraseAction</name>
     <message>
         <source>Erase Item</source>
@@ -963,6 +1029,16 @@
         <source>Stops the script that is running (Escape)</source>
         <translation>Menghentikan skrip yang sedang berjalan (Escape)</translation>
     </message>
+    <message>
+        <source>Upload Scene</source>
+        <translation>Unggah adegan</translation>
+    </message>
+    <message>
+        <source>The scene needs to be saved before uploading.
+Please save the scene and try again.</source>
+        <translation>Adegan harus disimpan sebelum diunggah.
+Simpan adegan lalu coba lagi.</translation>
+    </message>
 </context>
 <context>
     <name>PhysicsWorldPropertiesWidget</name>
@@ -1237,6 +1313,21 @@
     </message>
 </context>
 <context>
+    <name>QuickLoadWidget</name>
+    <message>
+        <source>Icon SIze</source>
+        <translation>Ukuran ikon</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Telusuri...</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>Buka folder</translation>
+    </message>
+</context>
+<context>
     <name>RectangleAction</name>
     <message>
         <source>Create Rectangle</source>
@@ -1476,6 +1567,119 @@ tinggi=%2</translation>
     <message>
         <source>Union</source>
         <translation>Gabungan</translation>
+    </message>
+</context>
+<context>
+    <name>UploadDialog</name>
+    <message>
+        <source>Basic</source>
+        <translation>Dasar</translation>
+    </message>
+    <message>
+        <source>Upload As</source>
+        <translation>Unggah sebagai</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Masuk</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Nama pengguna</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Kata sandi</translation>
+    </message>
+    <message>
+        <source>Optional</source>
+        <translation>Opsional</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Kategori</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Deskripsi</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Kata kunci</translation>
+    </message>
+    <message>
+        <source>Uploading: %p%</source>
+        <translation>Mengunggah: %p%</translation>
+    </message>
+    <message>
+        <source>Bug Report</source>
+        <translation>Laporan kutu</translation>
+    </message>
+    <message>
+        <source>Educational</source>
+        <translation>Edukasi</translation>
+    </message>
+    <message>
+        <source>Mechanisms</source>
+        <translation>Mekanisme</translation>
+    </message>
+    <message>
+        <source>Ragdolls</source>
+        <translation>Boneka</translation>
+    </message>
+    <message>
+        <source>Vehicles</source>
+        <translation>Kendaraan</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Umum</translation>
+    </message>
+    <message>
+        <source>Anonymous User</source>
+        <translation>Pengguna anonim</translation>
+    </message>
+    <message>
+        <source>Registered User</source>
+        <translation>Pengguna terdaftar</translation>
+    </message>
+    <message>
+        <source>If you don&apos;t already have an account, you can create one &lt;a href=&apos;%1&apos;&gt;here&lt;/a&gt;</source>
+        <translation>Jika belum punya akun, Anda dapat membuatnya &lt;a href=&apos;%1&apos;&gt;di sini&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Upload %1</source>
+        <translation>Unggah %1</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Galat</translation>
+    </message>
+    <message>
+        <source>Please fill in username and password</source>
+        <translation>Isi nama pengguna dan kata sandi</translation>
+    </message>
+    <message>
+        <source>Bad reply from server</source>
+        <translation>Balasan server tidak valid</translation>
+    </message>
+    <message>
+        <source>Could not reach the scene repository: %1</source>
+        <translation>Tidak dapat menjangkau repositori adegan: %1</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>Berhasil</translation>
+    </message>
+    <message>
+        <source>Your scene has been successfully uploaded &lt;a href=&apos;%1&apos;&gt;here&lt;/a&gt;.</source>
+        <translation>Adegan Anda berhasil diunggah &lt;a href=&apos;%1&apos;&gt;di sini&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>The server replied with the following message:
+%1</source>
+        <translation>Server membalas dengan pesan berikut:
+%1</translation>
     </message>
 </context>
 <context>

@@ -268,6 +268,72 @@
     </message>
 </context>
 <context>
+    <name>DownloadDialog</name>
+    <message>
+        <source>Maximum number of scenes to download</source>
+        <translation>Numero massimo di scene da scaricare</translation>
+    </message>
+    <message>
+        <source>Save to</source>
+        <translation>Salva in</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Sfoglia...</translation>
+    </message>
+    <message>
+        <source>Download scenes from %1</source>
+        <translation>Scarica scene da %1</translation>
+    </message>
+    <message>
+        <source>Select Directory</source>
+        <translation>Seleziona cartella</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Errore</translation>
+    </message>
+    <message>
+        <source>Failed to retrieve file list from server.</source>
+        <translation>Impossibile ottenere l&apos;elenco dei file dal server.</translation>
+    </message>
+</context>
+<context>
+    <name>DownloadProgressDialog</name>
+    <message>
+        <source>Scene Filename</source>
+        <translation>File della scena</translation>
+    </message>
+    <message>
+        <source>Download Information</source>
+        <translation>Informazioni sullo scaricamento</translation>
+    </message>
+    <message>
+        <source>Refused: not a file of this folder.</source>
+        <translation>Rifiutato: non è un file di questa cartella.</translation>
+    </message>
+    <message>
+        <source>Download Progress</source>
+        <translation>Avanzamento dello scaricamento</translation>
+    </message>
+    <message>
+        <source>Successfully downloaded.</source>
+        <translation>Scaricato correttamente.</translation>
+    </message>
+    <message>
+        <source>Already downloaded.</source>
+        <translation>Già scaricato.</translation>
+    </message>
+    <message>
+        <source>Failed to open file for writing.</source>
+        <translation>Impossibile aprire il file in scrittura.</translation>
+    </message>
+    <message>
+        <source>Refused: larger than %1 MB.</source>
+        <translation>Rifiutato: più grande di %1 MB.</translation>
+    </message>
+</context>
+<context>
     <name>EraseAction</name>
     <message>
         <source>Erase Item</source>
@@ -963,6 +1029,16 @@
         <source>Stops the script that is running (Escape)</source>
         <translation>Interrompe lo script in esecuzione (Esc)</translation>
     </message>
+    <message>
+        <source>Upload Scene</source>
+        <translation>Carica scena</translation>
+    </message>
+    <message>
+        <source>The scene needs to be saved before uploading.
+Please save the scene and try again.</source>
+        <translation>La scena deve essere salvata prima del caricamento.
+Salva la scena e riprova.</translation>
+    </message>
 </context>
 <context>
     <name>PhysicsWorldPropertiesWidget</name>
@@ -1237,6 +1313,21 @@
     </message>
 </context>
 <context>
+    <name>QuickLoadWidget</name>
+    <message>
+        <source>Icon SIze</source>
+        <translation>Dimensione icone</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Sfoglia...</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>Apri cartella</translation>
+    </message>
+</context>
+<context>
     <name>RectangleAction</name>
     <message>
         <source>Create Rectangle</source>
@@ -1476,6 +1567,119 @@ altezza=%2</translation>
     <message>
         <source>Union</source>
         <translation>Unione</translation>
+    </message>
+</context>
+<context>
+    <name>UploadDialog</name>
+    <message>
+        <source>Basic</source>
+        <translation>Di base</translation>
+    </message>
+    <message>
+        <source>Upload As</source>
+        <translation>Carica come</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Accesso</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Nome utente</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>Optional</source>
+        <translation>Facoltativo</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Categoria</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Descrizione</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Parole chiave</translation>
+    </message>
+    <message>
+        <source>Uploading: %p%</source>
+        <translation>Caricamento: %p%</translation>
+    </message>
+    <message>
+        <source>Bug Report</source>
+        <translation>Segnalazione di errore</translation>
+    </message>
+    <message>
+        <source>Educational</source>
+        <translation>Didattico</translation>
+    </message>
+    <message>
+        <source>Mechanisms</source>
+        <translation>Meccanismi</translation>
+    </message>
+    <message>
+        <source>Ragdolls</source>
+        <translation>Manichini</translation>
+    </message>
+    <message>
+        <source>Vehicles</source>
+        <translation>Veicoli</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Generale</translation>
+    </message>
+    <message>
+        <source>Anonymous User</source>
+        <translation>Utente anonimo</translation>
+    </message>
+    <message>
+        <source>Registered User</source>
+        <translation>Utente registrato</translation>
+    </message>
+    <message>
+        <source>If you don&apos;t already have an account, you can create one &lt;a href=&apos;%1&apos;&gt;here&lt;/a&gt;</source>
+        <translation>Se non hai ancora un account, puoi crearne uno &lt;a href=&apos;%1&apos;&gt;qui&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Upload %1</source>
+        <translation>Carica %1</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Errore</translation>
+    </message>
+    <message>
+        <source>Please fill in username and password</source>
+        <translation>Inserisci nome utente e password</translation>
+    </message>
+    <message>
+        <source>Bad reply from server</source>
+        <translation>Risposta non valida dal server</translation>
+    </message>
+    <message>
+        <source>Could not reach the scene repository: %1</source>
+        <translation>Impossibile raggiungere l&apos;archivio delle scene: %1</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>Riuscito</translation>
+    </message>
+    <message>
+        <source>Your scene has been successfully uploaded &lt;a href=&apos;%1&apos;&gt;here&lt;/a&gt;.</source>
+        <translation>La tua scena è stata caricata &lt;a href=&apos;%1&apos;&gt;qui&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>The server replied with the following message:
+%1</source>
+        <translation>Il server ha risposto con il seguente messaggio:
+%1</translation>
     </message>
 </context>
 <context>

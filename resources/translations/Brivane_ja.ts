@@ -268,6 +268,72 @@
     </message>
 </context>
 <context>
+    <name>DownloadDialog</name>
+    <message>
+        <source>Maximum number of scenes to download</source>
+        <translation>ダウンロードするシーンの最大数</translation>
+    </message>
+    <message>
+        <source>Save to</source>
+        <translation>保存先</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>参照...</translation>
+    </message>
+    <message>
+        <source>Download scenes from %1</source>
+        <translation>%1 からシーンをダウンロード</translation>
+    </message>
+    <message>
+        <source>Select Directory</source>
+        <translation>フォルダーを選択</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Failed to retrieve file list from server.</source>
+        <translation>サーバーからファイル一覧を取得できませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>DownloadProgressDialog</name>
+    <message>
+        <source>Scene Filename</source>
+        <translation>シーンのファイル名</translation>
+    </message>
+    <message>
+        <source>Download Information</source>
+        <translation>ダウンロード情報</translation>
+    </message>
+    <message>
+        <source>Refused: not a file of this folder.</source>
+        <translation>拒否: このフォルダーのファイルではありません。</translation>
+    </message>
+    <message>
+        <source>Download Progress</source>
+        <translation>ダウンロードの進行状況</translation>
+    </message>
+    <message>
+        <source>Successfully downloaded.</source>
+        <translation>ダウンロードしました。</translation>
+    </message>
+    <message>
+        <source>Already downloaded.</source>
+        <translation>ダウンロード済みです。</translation>
+    </message>
+    <message>
+        <source>Failed to open file for writing.</source>
+        <translation>書き込み用にファイルを開けませんでした。</translation>
+    </message>
+    <message>
+        <source>Refused: larger than %1 MB.</source>
+        <translation>拒否: %1 MB を超えています。</translation>
+    </message>
+</context>
+<context>
     <name>EraseAction</name>
     <message>
         <source>Erase Item</source>
@@ -963,6 +1029,16 @@
         <source>Stops the script that is running (Escape)</source>
         <translation>実行中のスクリプトを停止します (Escape)</translation>
     </message>
+    <message>
+        <source>Upload Scene</source>
+        <translation>シーンをアップロード</translation>
+    </message>
+    <message>
+        <source>The scene needs to be saved before uploading.
+Please save the scene and try again.</source>
+        <translation>アップロードの前にシーンを保存する必要があります。
+シーンを保存してからやり直してください。</translation>
+    </message>
 </context>
 <context>
     <name>PhysicsWorldPropertiesWidget</name>
@@ -1237,6 +1313,21 @@
     </message>
 </context>
 <context>
+    <name>QuickLoadWidget</name>
+    <message>
+        <source>Icon SIze</source>
+        <translation>アイコンの大きさ</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>参照...</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>フォルダーを開く</translation>
+    </message>
+</context>
+<context>
     <name>RectangleAction</name>
     <message>
         <source>Create Rectangle</source>
@@ -1476,6 +1567,119 @@ height=%2</source>
     <message>
         <source>Union</source>
         <translation>結合</translation>
+    </message>
+</context>
+<context>
+    <name>UploadDialog</name>
+    <message>
+        <source>Basic</source>
+        <translation>基本</translation>
+    </message>
+    <message>
+        <source>Upload As</source>
+        <translation>アップロードの名義</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>ログイン</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>ユーザー名</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>Optional</source>
+        <translation>任意</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>カテゴリー</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>説明</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>キーワード</translation>
+    </message>
+    <message>
+        <source>Uploading: %p%</source>
+        <translation>アップロード中: %p%</translation>
+    </message>
+    <message>
+        <source>Bug Report</source>
+        <translation>バグ報告</translation>
+    </message>
+    <message>
+        <source>Educational</source>
+        <translation>教育</translation>
+    </message>
+    <message>
+        <source>Mechanisms</source>
+        <translation>機構</translation>
+    </message>
+    <message>
+        <source>Ragdolls</source>
+        <translation>ラグドール</translation>
+    </message>
+    <message>
+        <source>Vehicles</source>
+        <translation>乗り物</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>Anonymous User</source>
+        <translation>匿名ユーザー</translation>
+    </message>
+    <message>
+        <source>Registered User</source>
+        <translation>登録ユーザー</translation>
+    </message>
+    <message>
+        <source>If you don&apos;t already have an account, you can create one &lt;a href=&apos;%1&apos;&gt;here&lt;/a&gt;</source>
+        <translation>アカウントをお持ちでない場合は&lt;a href=&apos;%1&apos;&gt;こちら&lt;/a&gt;で作成できます</translation>
+    </message>
+    <message>
+        <source>Upload %1</source>
+        <translation>%1 をアップロード</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Please fill in username and password</source>
+        <translation>ユーザー名とパスワードを入力してください</translation>
+    </message>
+    <message>
+        <source>Bad reply from server</source>
+        <translation>サーバーの応答が不正です</translation>
+    </message>
+    <message>
+        <source>Could not reach the scene repository: %1</source>
+        <translation>シーンリポジトリに接続できません: %1</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>Your scene has been successfully uploaded &lt;a href=&apos;%1&apos;&gt;here&lt;/a&gt;.</source>
+        <translation>シーンを&lt;a href=&apos;%1&apos;&gt;こちら&lt;/a&gt;にアップロードしました。</translation>
+    </message>
+    <message>
+        <source>The server replied with the following message:
+%1</source>
+        <translation>サーバーから次のメッセージが返されました:
+%1</translation>
     </message>
 </context>
 <context>

@@ -268,6 +268,72 @@
     </message>
 </context>
 <context>
+    <name>DownloadDialog</name>
+    <message>
+        <source>Maximum number of scenes to download</source>
+        <translation>Наибольшее число сцен для загрузки</translation>
+    </message>
+    <message>
+        <source>Save to</source>
+        <translation>Сохранить в</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Обзор...</translation>
+    </message>
+    <message>
+        <source>Download scenes from %1</source>
+        <translation>Загрузить сцены с %1</translation>
+    </message>
+    <message>
+        <source>Select Directory</source>
+        <translation>Выбрать папку</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Ошибка</translation>
+    </message>
+    <message>
+        <source>Failed to retrieve file list from server.</source>
+        <translation>Не удалось получить список файлов с сервера.</translation>
+    </message>
+</context>
+<context>
+    <name>DownloadProgressDialog</name>
+    <message>
+        <source>Scene Filename</source>
+        <translation>Файл сцены</translation>
+    </message>
+    <message>
+        <source>Download Information</source>
+        <translation>Сведения о загрузке</translation>
+    </message>
+    <message>
+        <source>Refused: not a file of this folder.</source>
+        <translation>Отклонено: не файл этой папки.</translation>
+    </message>
+    <message>
+        <source>Download Progress</source>
+        <translation>Ход загрузки</translation>
+    </message>
+    <message>
+        <source>Successfully downloaded.</source>
+        <translation>Успешно загружено.</translation>
+    </message>
+    <message>
+        <source>Already downloaded.</source>
+        <translation>Уже загружено.</translation>
+    </message>
+    <message>
+        <source>Failed to open file for writing.</source>
+        <translation>Не удалось открыть файл для записи.</translation>
+    </message>
+    <message>
+        <source>Refused: larger than %1 MB.</source>
+        <translation>Отклонено: больше %1 МБ.</translation>
+    </message>
+</context>
+<context>
     <name>EraseAction</name>
     <message>
         <source>Erase Item</source>
@@ -963,6 +1029,16 @@
         <source>Stops the script that is running (Escape)</source>
         <translation>Останавливает выполняемый скрипт (Escape)</translation>
     </message>
+    <message>
+        <source>Upload Scene</source>
+        <translation>Отправить сцену</translation>
+    </message>
+    <message>
+        <source>The scene needs to be saved before uploading.
+Please save the scene and try again.</source>
+        <translation>Перед отправкой сцену нужно сохранить.
+Сохраните сцену и попробуйте снова.</translation>
+    </message>
 </context>
 <context>
     <name>PhysicsWorldPropertiesWidget</name>
@@ -1237,6 +1313,21 @@
     </message>
 </context>
 <context>
+    <name>QuickLoadWidget</name>
+    <message>
+        <source>Icon SIze</source>
+        <translation>Размер значков</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Обзор...</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>Открыть папку</translation>
+    </message>
+</context>
+<context>
     <name>RectangleAction</name>
     <message>
         <source>Create Rectangle</source>
@@ -1476,6 +1567,119 @@ height=%2</source>
     <message>
         <source>Union</source>
         <translation>Объединение</translation>
+    </message>
+</context>
+<context>
+    <name>UploadDialog</name>
+    <message>
+        <source>Basic</source>
+        <translation>Основное</translation>
+    </message>
+    <message>
+        <source>Upload As</source>
+        <translation>Отправить как</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Вход</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Имя пользователя</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Пароль</translation>
+    </message>
+    <message>
+        <source>Optional</source>
+        <translation>Дополнительно</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Категория</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Описание</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Ключевые слова</translation>
+    </message>
+    <message>
+        <source>Uploading: %p%</source>
+        <translation>Отправка: %p%</translation>
+    </message>
+    <message>
+        <source>Bug Report</source>
+        <translation>Сообщение об ошибке</translation>
+    </message>
+    <message>
+        <source>Educational</source>
+        <translation>Учебное</translation>
+    </message>
+    <message>
+        <source>Mechanisms</source>
+        <translation>Механизмы</translation>
+    </message>
+    <message>
+        <source>Ragdolls</source>
+        <translation>Куклы</translation>
+    </message>
+    <message>
+        <source>Vehicles</source>
+        <translation>Машины</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Общие</translation>
+    </message>
+    <message>
+        <source>Anonymous User</source>
+        <translation>Анонимный пользователь</translation>
+    </message>
+    <message>
+        <source>Registered User</source>
+        <translation>Зарегистрированный пользователь</translation>
+    </message>
+    <message>
+        <source>If you don&apos;t already have an account, you can create one &lt;a href=&apos;%1&apos;&gt;here&lt;/a&gt;</source>
+        <translation>Если у вас ещё нет учётной записи, её можно создать &lt;a href=&apos;%1&apos;&gt;здесь&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Upload %1</source>
+        <translation>Отправить %1</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Ошибка</translation>
+    </message>
+    <message>
+        <source>Please fill in username and password</source>
+        <translation>Введите имя пользователя и пароль</translation>
+    </message>
+    <message>
+        <source>Bad reply from server</source>
+        <translation>Неверный ответ сервера</translation>
+    </message>
+    <message>
+        <source>Could not reach the scene repository: %1</source>
+        <translation>Не удалось связаться с хранилищем сцен: %1</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>Готово</translation>
+    </message>
+    <message>
+        <source>Your scene has been successfully uploaded &lt;a href=&apos;%1&apos;&gt;here&lt;/a&gt;.</source>
+        <translation>Ваша сцена успешно отправлена &lt;a href=&apos;%1&apos;&gt;сюда&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>The server replied with the following message:
+%1</source>
+        <translation>Сервер ответил следующим сообщением:
+%1</translation>
     </message>
 </context>
 <context>

@@ -268,6 +268,72 @@
     </message>
 </context>
 <context>
+    <name>DownloadDialog</name>
+    <message>
+        <source>Maximum number of scenes to download</source>
+        <translation>最多下载的场景数</translation>
+    </message>
+    <message>
+        <source>Save to</source>
+        <translation>保存到</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>浏览...</translation>
+    </message>
+    <message>
+        <source>Download scenes from %1</source>
+        <translation>从 %1 下载场景</translation>
+    </message>
+    <message>
+        <source>Select Directory</source>
+        <translation>选择文件夹</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Failed to retrieve file list from server.</source>
+        <translation>无法从服务器获取文件列表。</translation>
+    </message>
+</context>
+<context>
+    <name>DownloadProgressDialog</name>
+    <message>
+        <source>Scene Filename</source>
+        <translation>场景文件名</translation>
+    </message>
+    <message>
+        <source>Download Information</source>
+        <translation>下载信息</translation>
+    </message>
+    <message>
+        <source>Refused: not a file of this folder.</source>
+        <translation>已拒绝：不是此文件夹的文件。</translation>
+    </message>
+    <message>
+        <source>Download Progress</source>
+        <translation>下载进度</translation>
+    </message>
+    <message>
+        <source>Successfully downloaded.</source>
+        <translation>下载成功。</translation>
+    </message>
+    <message>
+        <source>Already downloaded.</source>
+        <translation>已下载。</translation>
+    </message>
+    <message>
+        <source>Failed to open file for writing.</source>
+        <translation>无法打开文件进行写入。</translation>
+    </message>
+    <message>
+        <source>Refused: larger than %1 MB.</source>
+        <translation>已拒绝：大于 %1 MB。</translation>
+    </message>
+</context>
+<context>
     <name>EraseAction</name>
     <message>
         <source>Erase Item</source>
@@ -963,6 +1029,16 @@
         <source>Stops the script that is running (Escape)</source>
         <translation>停止正在运行的脚本 (Escape)</translation>
     </message>
+    <message>
+        <source>Upload Scene</source>
+        <translation>上传场景</translation>
+    </message>
+    <message>
+        <source>The scene needs to be saved before uploading.
+Please save the scene and try again.</source>
+        <translation>上传前需要先保存场景。
+请保存场景后重试。</translation>
+    </message>
 </context>
 <context>
     <name>PhysicsWorldPropertiesWidget</name>
@@ -1237,6 +1313,21 @@
     </message>
 </context>
 <context>
+    <name>QuickLoadWidget</name>
+    <message>
+        <source>Icon SIze</source>
+        <translation>图标大小</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>浏览...</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>打开文件夹</translation>
+    </message>
+</context>
+<context>
     <name>RectangleAction</name>
     <message>
         <source>Create Rectangle</source>
@@ -1476,6 +1567,119 @@ height=%2</source>
     <message>
         <source>Union</source>
         <translation>并集</translation>
+    </message>
+</context>
+<context>
+    <name>UploadDialog</name>
+    <message>
+        <source>Basic</source>
+        <translation>基本</translation>
+    </message>
+    <message>
+        <source>Upload As</source>
+        <translation>上传身份</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>登录</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>用户名</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>密码</translation>
+    </message>
+    <message>
+        <source>Optional</source>
+        <translation>可选</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>类别</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>描述</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>关键词</translation>
+    </message>
+    <message>
+        <source>Uploading: %p%</source>
+        <translation>正在上传：%p%</translation>
+    </message>
+    <message>
+        <source>Bug Report</source>
+        <translation>错误报告</translation>
+    </message>
+    <message>
+        <source>Educational</source>
+        <translation>教育</translation>
+    </message>
+    <message>
+        <source>Mechanisms</source>
+        <translation>机械</translation>
+    </message>
+    <message>
+        <source>Ragdolls</source>
+        <translation>布娃娃</translation>
+    </message>
+    <message>
+        <source>Vehicles</source>
+        <translation>车辆</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>Anonymous User</source>
+        <translation>匿名用户</translation>
+    </message>
+    <message>
+        <source>Registered User</source>
+        <translation>注册用户</translation>
+    </message>
+    <message>
+        <source>If you don&apos;t already have an account, you can create one &lt;a href=&apos;%1&apos;&gt;here&lt;/a&gt;</source>
+        <translation>如果还没有账户，可以在&lt;a href=&apos;%1&apos;&gt;这里&lt;/a&gt;创建</translation>
+    </message>
+    <message>
+        <source>Upload %1</source>
+        <translation>上传 %1</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Please fill in username and password</source>
+        <translation>请填写用户名和密码</translation>
+    </message>
+    <message>
+        <source>Bad reply from server</source>
+        <translation>服务器回复无效</translation>
+    </message>
+    <message>
+        <source>Could not reach the scene repository: %1</source>
+        <translation>无法连接场景仓库：%1</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>Your scene has been successfully uploaded &lt;a href=&apos;%1&apos;&gt;here&lt;/a&gt;.</source>
+        <translation>您的场景已成功上传到&lt;a href=&apos;%1&apos;&gt;这里&lt;/a&gt;。</translation>
+    </message>
+    <message>
+        <source>The server replied with the following message:
+%1</source>
+        <translation>服务器回复了以下消息：
+%1</translation>
     </message>
 </context>
 <context>

@@ -12,6 +12,24 @@ const QString ContactAddress = QString::fromLatin1(QByteArray(BRIVANE_CONTACT_AD
 const QSize ThumbnailSize(160, 120);
 const QMatrix TextureMatrix(0.02, 0, 0, -0.02, 0, 0);
 
+namespace {
+QUrl addressInForce(const char* variable, const QUrl& built)
+{
+    const QString set = qEnvironmentVariable(variable);
+    return set.isEmpty() ? built : QUrl(set);
+}
+} // namespace
+
+QUrl websiteUrl()
+{
+    return addressInForce("BRIVANE_WEBSITE_URL", WebsiteUrl);
+}
+
+QUrl repositoryUrl()
+{
+    return addressInForce("BRIVANE_REPOSITORY_URL", RepositoryUrl);
+}
+
 Settings* Settings::settings = nullptr;
 
 // The one table of keys: type, field, setter name, key, default, QVariant conversion.
@@ -52,7 +70,6 @@ Settings* Settings::settings = nullptr;
       toBool)                                                                                      \
     X(int, websiteUserType, WebsiteUserType, "Website/UserType", 0, toInt)                         \
     X(QString, websiteUsername, WebsiteUsername, "Website/Username", QString(), toString)          \
-    X(QString, websitePassword, WebsitePassword, "Website/Password", QString(), toString)          \
     X(int, explodeMethod, ExplodeMethod, "Tools/Explode/Method", 3, toInt)                         \
     X(double, explodeSize, ExplodeSize, "Tools/Explode/Size", 0.5, toDouble)                       \
     X(double, eraseSize, EraseSize, "Tools/Erase/Size", 0.05, toDouble)                            \

@@ -49,7 +49,6 @@ public:
     bool attachScriptDebugger;
     int websiteUserType;
     QString websiteUsername;
-    QString websitePassword;
     int explodeMethod;
     double explodeSize;
     double eraseSize;
@@ -102,7 +101,6 @@ public slots:
     void setAttachScriptDebugger(bool attachScriptDebugger);
     void setWebsiteUserType(int websiteUserType);
     void setWebsiteUsername(QString websiteUsername);
-    void setWebsitePassword(QString websitePassword);
     void setExplodeMethod(int explodeMethod);
     void setExplodeSize(double explodeSize);
     void setEraseSize(double eraseSize);
@@ -136,6 +134,11 @@ private:
 // Program-wide constants. The addresses are build-time configuration.
 extern const QUrl WebsiteUrl;
 extern const QUrl RepositoryUrl;
+// The addresses in force: those of the environment variables BRIVANE_WEBSITE_URL and
+// BRIVANE_REPOSITORY_URL where set, so that the program can use a repository of one's own
+// without a build of its own; else the build's.
+QUrl websiteUrl();
+QUrl repositoryUrl();
 extern const QString ContactAddress; // base64 text of the maker's address
 extern const QSize ThumbnailSize;
 extern const QMatrix TextureMatrix; // 50 pixels to the metre, y turned over

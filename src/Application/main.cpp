@@ -23,7 +23,7 @@ QPixmap splashPixmap()
     painter.drawText(textRect, Qt::AlignCenter,
                      QObject::tr("Version: %1").arg(QCoreApplication::applicationVersion())
                          + QStringLiteral("\n\n") + QObject::tr("Made by the Brivane Project")
-                         + QLatin1Char('\n') + WebsiteUrl.host());
+                         + QLatin1Char('\n') + websiteUrl().host());
     return pixmap;
 }
 } // namespace

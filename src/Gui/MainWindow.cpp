@@ -4,6 +4,7 @@
 #include "Application/Settings.h"
 #include "Files/SceneFile.h"
 #include "Gui/PropertyEditorWidget.h"
+#include "Gui/QuickLoadWidget.h"
 #include "Gui/ScenePropertiesWidget.h"
 #include "Gui/SettingsWidget.h"
 #include "Gui/SnapWidget.h"
@@ -41,6 +42,8 @@
 #include "View/GraphicsScene.h"
 #include "View/GraphicsView.h"
 #include "View/StatusBar.h"
+#include "Web/DownloadDialog.h"
+#include "Web/UploadDialog.h"
 
 #include <QActionGroup>
 #include <QApplication>
@@ -53,6 +56,7 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QSettings>
 #include <QTabBar>
 #include <QToolBar>
@@ -65,14 +69,6 @@ const int fileMessageTimeout = 3000; // milliseconds
 QIcon resourceIcon(const char* name)
 {
     return QIcon(QStringLiteral(":/icons/%1.png").arg(QLatin1String(name)));
-}
-
-// The content of a dock whose panel class is still to come, named as that class.
-QWidget* placeholderPanel(const char* className)
-{
-    auto* panel = new QWidget();
-    panel->setObjectName(QLatin1String(className));
-    return panel;
 }
 
 QString sceneFilter()
@@ -143,9 +139,9 @@ MainWindow::actionRows()
         {Id::Load, QT_TR_NOOP("Load Scene..."), QT_TR_NOOP("Loads a scene"), "load", Key::Open, 0,
          &MainWindow::makeCommand, &MainWindow::onLoad},
         {Id::Upload, QT_TR_NOOP("Upload Scene..."), QT_TR_NOOP("Uploads current scene to %1"),
-         "upload", none, 0, &MainWindow::makeCommand, nullptr},
+         "upload", none, 0, &MainWindow::makeCommand, &MainWindow::onUpload},
         {Id::Download, QT_TR_NOOP("Download Scenes..."), QT_TR_NOOP("Downloads scenes from %1"),
-         "download", none, 0, &MainWindow::makeCommand, nullptr},
+         "download", none, 0, &MainWindow::makeCommand, &MainWindow::onDownload},
         {Id::Export, QT_TR_NOOP("Export..."), QT_TR_NOOP("Exports current scene as an image"),
          "export", none, 0, &MainWindow::makeCommand, nullptr},
         {Id::EvaluateScript, QT_TR_NOOP("Evaluate Script..."),
@@ -309,8 +305,11 @@ const QVector<MainWindow::DockRow>& MainWindow::dockRows()
          },
          sides, Qt::RightDockWidgetArea, Qt::SHIFT | Qt::Key_P, DockRow::ShownOnWideDesktop},
         {"QuickLoadDockWidget", QT_TR_NOOP("Quick Load"),
-         [](MainWindow*) { return placeholderPanel("QuickLoadWidget"); }, sides,
-         Qt::LeftDockWidgetArea, Qt::SHIFT | Qt::Key_Q, DockRow::Shown},
+         [](MainWindow* window) -> QWidget* {
+             return window->quickLoad
+                 = new QuickLoadWidget(Settings::instance()->quickLoadDirectory);
+         },
+         sides, Qt::LeftDockWidgetArea, Qt::SHIFT | Qt::Key_Q, DockRow::Shown},
         {"UndoViewDockWidget", QT_TR_NOOP("Commands History"),
          [](MainWindow*) -> QWidget* { return new QUndoView(Application::instance()->undoStack); },
          Qt::AllDockWidgetAreas, Qt::RightDockWidgetArea, Qt::SHIFT | Qt::Key_C, DockRow::Hidden},
@@ -553,7 +552,7 @@ void MainWindow::fillVisibilityMenu(QMenu* menu, const QList<QAction*>& toggles,
 
 void MainWindow::retranslate()
 {
-    const QString website = WebsiteUrl.toString();
+    const QString website = websiteUrl().toString();
     for (const ActionRow& row : actionRows()) {
         QAction* translated = action(row.id);
         translated->setText(tr(row.text));
@@ -697,6 +696,37 @@ void MainWindow::onLoad()
         this, tr("Load"), Application::dataDirectory(QStringLiteral("saves")), sceneFilter());
     if (!filename.isEmpty())
         Application::instance()->load(filename);
+}
+
+void MainWindow::onUpload()
+{
+    const QString filename = Application::instance()->fileName;
+    if (filename.isEmpty()) {
+        QMessageBox::information(this, tr("Upload Scene"),
+                                 tr("The scene needs to be saved before uploading.\nPlease save "
+                                    "the scene and try again."));
+        return;
+    }
+    UploadDialog dialog(filename, this);
+    runPaused(dialog);
+}
+
+void MainWindow::onDownload()
+{
+    DownloadDialog dialog(quickLoad->directory(), this);
+    runPaused(dialog);
+}
+
+void MainWindow::runPaused(QDialog& dialog)
+{
+    // The world stands still while the dialog is open and goes on as it was after.
+    PhysicsWorld* world = PhysicsWorld::instance();
+    const bool running = world->running();
+    if (running)
+        world->stop();
+    dialog.exec();
+    if (running)
+        world->start();
 }
 
 void MainWindow::onPerspectiveSelected()

@@ -7,6 +7,8 @@
 #include <array>
 
 class ActionContextToolBar;
+class QDialog;
+class QuickLoadWidget;
 class ConsoleWidget;
 class GraphicsView;
 class GraphicsViewAction;
@@ -120,6 +122,8 @@ private slots:
     void onSave();
     void onSaveAs();
     void onLoad();
+    void onUpload();
+    void onDownload();
     void onPerspectiveSelected();
     void onEvaluateScript();
     void onQuit();
@@ -141,6 +145,9 @@ private:
     struct DockRow;
     struct MenuRow;
     using ActionIds = QVector<ActionId>;
+
+    // Runs a modal dialog with the world paused, and lets a running world go on after.
+    static void runPaused(QDialog& dialog);
 
     static const std::array<ActionRow, std::size_t(ActionId::Count)>& actionRows();
     static const QVector<ToolBarRow>& toolBarRows();
@@ -192,6 +199,7 @@ private:
     ActionContextToolBar* contextToolBar = nullptr;
     StatusBar* statusLine = nullptr;
     PropertyEditorWidget* propertyEditor = nullptr;
+    QuickLoadWidget* quickLoad = nullptr;
     ConsoleWidget* consoleWidget = nullptr;
     QObjectList trackedChildren;
 };

@@ -139,7 +139,7 @@ private slots:
         QTest::addColumn<QKeySequence>("shortcut");
         QTest::addColumn<bool>("enabled");
 
-        const QString website = WebsiteUrl.toString();
+        const QString website = websiteUrl().toString();
         const auto row = [](Id id, const char* text, const QString& tip, const char* icon,
                             const QKeySequence& shortcut, bool enabled) {
             QTest::addRow("%d %s", int(id), text) << id << QString::fromUtf8(text) << tip
@@ -151,9 +151,9 @@ private slots:
         row(Id::SaveAs, "Save Scene As...", "Saves current scene as", "saveAs", Key::SaveAs, true);
         row(Id::Load, "Load Scene...", "Loads a scene", "load", Key::Open, true);
         row(Id::Upload, "Upload Scene...", "Uploads current scene to " + website, "upload", Key(),
-            false);
+            true);
         row(Id::Download, "Download Scenes...", "Downloads scenes from " + website, "download",
-            Key(), false);
+            Key(), true);
         row(Id::Export, "Export...", "Exports current scene as an image", "export", Key(), false);
         row(Id::EvaluateScript, "Evaluate Script...", "Evaluates a .script file", "script", Key(),
             true);
@@ -761,7 +761,7 @@ private slots:
         QEvent change(QEvent::LanguageChange);
         QCoreApplication::sendEvent(window(), &change);
         QCOMPARE(action(Id::Upload)->statusTip(),
-                 QStringLiteral("Uploads current scene to %1").arg(WebsiteUrl.toString()));
+                 QStringLiteral("Uploads current scene to %1").arg(websiteUrl().toString()));
         QCOMPARE(action(Id::New)->text(), QStringLiteral("New Scene"));
         QCOMPARE(window()->findChild<QToolBar*>(QStringLiteral("BodiesToolbar"))->windowTitle(),
                  QStringLiteral("Bodies Toolbar"));
