@@ -18,6 +18,8 @@ packages=(
     libcpp-httplib-dev libqt5sql5-sqlite qtkeychain-qt5-dev chromium
     # Glyphs for every language the program speaks: Latin, Greek and Cyrillic, Japanese, Chinese.
     fonts-dejavu-core fonts-ipafont-gothic fonts-wqy-zenhei
+    # Renders exported PDF pictures in the tests.
+    poppler-utils
 )
 
 install_missing() {

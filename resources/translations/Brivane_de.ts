@@ -378,6 +378,69 @@
     </message>
 </context>
 <context>
+    <name>ExportDialog</name>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>Image Export</source>
+        <translation>Bildexport</translation>
+    </message>
+    <message>
+        <source>Directory</source>
+        <translation>Verzeichnis</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>Filename</source>
+        <translation>Dateiname</translation>
+    </message>
+    <message>
+        <source>(without extension)</source>
+        <translation>(ohne Endung)</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message>
+        <source>Select Directory</source>
+        <translation>Verzeichnis wählen</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Please enter a file name.</source>
+        <translation>Bitte geben Sie einen Dateinamen ein.</translation>
+    </message>
+    <message>
+        <source>File %1 already exists</source>
+        <translation>Die Datei %1 existiert bereits</translation>
+    </message>
+    <message>
+        <source>Failed to save image</source>
+        <translation>Bild konnte nicht gespeichert werden</translation>
+    </message>
+</context>
+<context>
     <name>GearAction</name>
     <message>
         <source>Create Gear</source>

@@ -378,6 +378,69 @@
     </message>
 </context>
 <context>
+    <name>ExportDialog</name>
+    <message>
+        <source>Export</source>
+        <translation>Εξαγωγή</translation>
+    </message>
+    <message>
+        <source>Image Export</source>
+        <translation>Εξαγωγή εικόνας</translation>
+    </message>
+    <message>
+        <source>Directory</source>
+        <translation>Φάκελος</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Αναζήτηση...</translation>
+    </message>
+    <message>
+        <source>Filename</source>
+        <translation>Όνομα αρχείου</translation>
+    </message>
+    <message>
+        <source>(without extension)</source>
+        <translation>(χωρίς επέκταση)</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Πλάτος</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Ύψος</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Μορφή</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Ποιότητα</translation>
+    </message>
+    <message>
+        <source>Select Directory</source>
+        <translation>Επιλογή φακέλου</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Σφάλμα</translation>
+    </message>
+    <message>
+        <source>Please enter a file name.</source>
+        <translation>Εισαγάγετε όνομα αρχείου.</translation>
+    </message>
+    <message>
+        <source>File %1 already exists</source>
+        <translation>Το αρχείο %1 υπάρχει ήδη</translation>
+    </message>
+    <message>
+        <source>Failed to save image</source>
+        <translation>Η αποθήκευση της εικόνας απέτυχε</translation>
+    </message>
+</context>
+<context>
     <name>GearAction</name>
     <message>
         <source>Create Gear</source>

@@ -378,6 +378,69 @@
     </message>
 </context>
 <context>
+    <name>ExportDialog</name>
+    <message>
+        <source>Export</source>
+        <translation>Ekspor</translation>
+    </message>
+    <message>
+        <source>Image Export</source>
+        <translation>Ekspor gambar</translation>
+    </message>
+    <message>
+        <source>Directory</source>
+        <translation>Direktori</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Telusuri...</translation>
+    </message>
+    <message>
+        <source>Filename</source>
+        <translation>Nama berkas</translation>
+    </message>
+    <message>
+        <source>(without extension)</source>
+        <translation>(tanpa ekstensi)</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Lebar</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Tinggi</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Kualitas</translation>
+    </message>
+    <message>
+        <source>Select Directory</source>
+        <translation>Pilih folder</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Galat</translation>
+    </message>
+    <message>
+        <source>Please enter a file name.</source>
+        <translation>Masukkan nama berkas.</translation>
+    </message>
+    <message>
+        <source>File %1 already exists</source>
+        <translation>Berkas %1 sudah ada</translation>
+    </message>
+    <message>
+        <source>Failed to save image</source>
+        <translation>Gagal menyimpan gambar</translation>
+    </message>
+</context>
+<context>
     <name>GearAction</name>
     <message>
         <source>Create Gear</source>

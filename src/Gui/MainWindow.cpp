@@ -3,6 +3,7 @@
 #include "Application/Application.h"
 #include "Application/Settings.h"
 #include "Files/SceneFile.h"
+#include "Gui/ExportDialog.h"
 #include "Gui/PropertyEditorWidget.h"
 #include "Gui/QuickLoadWidget.h"
 #include "Gui/ScenePropertiesWidget.h"
@@ -143,7 +144,7 @@ MainWindow::actionRows()
         {Id::Download, QT_TR_NOOP("Download Scenes..."), QT_TR_NOOP("Downloads scenes from %1"),
          "download", none, 0, &MainWindow::makeCommand, &MainWindow::onDownload},
         {Id::Export, QT_TR_NOOP("Export..."), QT_TR_NOOP("Exports current scene as an image"),
-         "export", none, 0, &MainWindow::makeCommand, nullptr},
+         "export", none, 0, &MainWindow::makeCommand, &MainWindow::onExport},
         {Id::EvaluateScript, QT_TR_NOOP("Evaluate Script..."),
          QT_TR_NOOP("Evaluates a .script file"), "script", none, 0, &MainWindow::makeCommand,
          &MainWindow::onEvaluateScript},
@@ -714,6 +715,12 @@ void MainWindow::onUpload()
 void MainWindow::onDownload()
 {
     DownloadDialog dialog(quickLoad->directory(), this);
+    runPaused(dialog);
+}
+
+void MainWindow::onExport()
+{
+    ExportDialog dialog(this);
     runPaused(dialog);
 }
 

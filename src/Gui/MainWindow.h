@@ -124,6 +124,7 @@ private slots:
     void onLoad();
     void onUpload();
     void onDownload();
+    void onExport();
     void onPerspectiveSelected();
     void onEvaluateScript();
     void onQuit();

@@ -3,6 +3,7 @@
 #include "Application/Application.h"
 #include "Application/Settings.h"
 #include "Gui/MainWindow.h"
+#include "NemuGeometry/Geometry.h"
 #include "Physics/BalloonItem.h"
 #include "Physics/Box2DLimits.h"
 #include "Physics/ContactListener.h"
@@ -634,6 +635,95 @@ PulleyJoint* PhysicsWorld::createPulleyJoint(BodyItem* pItem1, BodyItem* pItem2,
     auto* joint = new PulleyJoint(pItem1, pItem2, polygon);
     addPhysicsItem(joint);
     return joint;
+}
+
+BodyItem* PhysicsWorld::clone(BodyItem* pBodyItem)
+{
+    if (!isInWorld(pBodyItem))
+        return nullptr;
+    PhysicsItem* copy = createPhysicsItem(QLatin1String(pBodyItem->metaObject()->className()));
+    if (!copy)
+        return nullptr;
+    // The name is refused, since the source holds it; the event scripts are compiled anew
+    // under the copy's own name.
+    copy->setProperties(pBodyItem->properties());
+    return copy->toBodyItem();
+}
+
+PhysicsItemList PhysicsWorld::cloneSelectedItems()
+{
+    const PhysicsItemList selection(scene);
+    const double dx = selection.boundingRect().width() + 0.5;
+    // The background body stands for itself, so that a joint to it counts as inside.
+    QHash<BodyItem*, BodyItem*> copies {{nullptr, nullptr}};
+    PhysicsItemList result;
+    for (BodyItem* body : selection.bodyItems()) {
+        BodyItem* copy = clone(body);
+        if (!copy)
+            continue;
+        copies.insert(body, copy);
+        copy->setPositionX(copy->positionX() + dx);
+        result.append(copy);
+    }
+    for (JointItem* joint : selection.jointItems()) {
+        if (!copies.contains(joint->bodyItem1()) || !copies.contains(joint->bodyItem2()))
+            continue;
+        if (JointItem* copy = copyJoint(joint, copies.value(joint->bodyItem1()),
+                                        copies.value(joint->bodyItem2()), dx)) {
+            copy->setProperties(joint->properties());
+            result.append(copy);
+        }
+    }
+    const QPointF shift(dx, 0.0);
+    for (ForceItem* force : selection.forceItems()) {
+        auto* spring = qobject_cast<SpringForce*>(force);
+        const QList<BodyItem*> bodies = force->bodyItems();
+        if (!spring || bodies.size() != 2 || !copies.contains(bodies.first())
+            || !copies.contains(bodies.last()))
+            continue;
+        SpringForce* copy
+            = createSpringForce(copies.value(bodies.first()), copies.value(bodies.last()),
+                                Nemu::Geometry::pointFromString(spring->anchor1()) + shift,
+                                Nemu::Geometry::pointFromString(spring->anchor2()) + shift,
+                                spring->k(), spring->damping());
+        if (copy) {
+            copy->setProperties(spring->properties());
+            result.append(copy);
+        }
+    }
+    for (PhysicsItem* copy : qAsConst(result)) {
+        if (copy->graphicsItem())
+            copy->graphicsItem()->setSelected(true);
+    }
+    return result;
+}
+
+JointItem* PhysicsWorld::copyJoint(JointItem* joint, BodyItem* first, BodyItem* second, double dx)
+{
+    // Through the anchors' text, as a script would copy them: six significant digits.
+    const QPointF shift(dx, 0.0);
+    const QPointF a1 = Nemu::Geometry::pointFromString(joint->anchor1()) + shift;
+    const QPointF a2 = Nemu::Geometry::pointFromString(joint->anchor2()) + shift;
+    switch (joint->type()) {
+    case PhysicsItem::DistanceJointType:
+        return createDistanceJoint(first, second, a1, a2);
+    case PhysicsItem::RevoluteJointType:
+        return createRevoluteJoint(first, second, a1);
+    case PhysicsItem::PrismaticJointType: {
+        auto* prismatic = static_cast<PrismaticJoint*>(joint);
+        return createPrismaticJoint(first, second, QLineF(prismatic->trackEnd1() + shift, a1),
+                                    QLineF(prismatic->trackEnd2() + shift, a2));
+    }
+    case PhysicsItem::PulleyJointType: {
+        auto* pulley = static_cast<PulleyJoint*>(joint);
+        return createPulleyJoint(
+            first, second,
+            QPolygonF({a1, QPointF(pulley->groundAnchorAX(), pulley->groundAnchorAY()) + shift,
+                       QPointF(pulley->groundAnchorBX(), pulley->groundAnchorBY()) + shift, a2}));
+    }
+    default:
+        return nullptr;
+    }
 }
 
 void PhysicsWorld::createGround()

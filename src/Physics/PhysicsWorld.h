@@ -193,6 +193,17 @@ public slots:
                                          QLineF line2);
     PulleyJoint* createPulleyJoint(BodyItem* pItem1, BodyItem* pItem2, QPolygonF polygon);
 
+    // A copy of a body of the world: an item of the same class and default geometry with the
+    // body's properties laid on it, so it stands exactly on the body, moving as it moves, under
+    // a fresh name. Joints and forces on the body are not copied. Null for any other argument.
+    // Neither this nor the next is undoable.
+    BodyItem* clone(BodyItem* pBodyItem);
+    // Copies the selected bodies half a metre to the right of the selection's bounding
+    // rectangle, with each selected joint and spring whose bodies are all copied or the
+    // background; others are left behind. Returns the copies, bodies, then joints, then
+    // forces, and selects them beside their sources.
+    PhysicsItemList cloneSelectedItems();
+
     // An item removed from the world does not come back.
     void addPhysicsItem(PhysicsItem* item);
     void removePhysicsItem(PhysicsItem* item);
@@ -213,6 +224,8 @@ private:
     class IterationGuard;
     // Stores gravity in m/s² and wakes every body; false if nothing changed.
     bool setGravity(double x, double y);
+    // A joint like `joint` between two copies of its bodies, its anchors moved by dx in x.
+    JointItem* copyJoint(JointItem* joint, BodyItem* first, BodyItem* second, double dx);
     // Deletes the removed items unless a loop or a script still runs.
     void deleteRemovedItems();
     void scheduleDeletion(int delayMilliseconds = 0);

@@ -1,5 +1,6 @@
 #include "Application/Application.h"
 #include "Application/Settings.h"
+#include "Gui/ExportDialog.h"
 #include "Gui/MainWindow.h"
 #include "Physics/PhysicsWorld.h"
 #include "Tools/ActionContextToolBar.h"
@@ -154,7 +155,7 @@ private slots:
             true);
         row(Id::Download, "Download Scenes...", "Downloads scenes from " + website, "download",
             Key(), true);
-        row(Id::Export, "Export...", "Exports current scene as an image", "export", Key(), false);
+        row(Id::Export, "Export...", "Exports current scene as an image", "export", Key(), true);
         row(Id::EvaluateScript, "Evaluate Script...", "Evaluates a .script file", "script", Key(),
             true);
         row(Id::Quit, "Quit", "Quits the application", "shutdown", Key::Quit, true);
@@ -549,6 +550,22 @@ private slots:
         QCOMPARE(iconImage(playPause->icon()), play);
         QCOMPARE(application()->undoStack->count(), commands + 1);
         application()->undoStack->clear();
+    }
+
+    void dialogsPauseTheWorld()
+    {
+        world()->start();
+        bool runningMeanwhile = true;
+        QTimer::singleShot(0, this, [&] {
+            auto* dialog = qobject_cast<ExportDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            runningMeanwhile = world()->running();
+            dialog->reject();
+        });
+        action(Id::Export)->trigger();
+        QVERIFY(!runningMeanwhile);
+        QVERIFY(world()->running());
+        world()->stop();
     }
 
     void undoAndRedoActOnStack()

@@ -1,6 +1,7 @@
 #include "Application/Application.h"
 #include "Application/Settings.h"
 #include "Gui/QuickLoadWidget.h"
+#include "MessageBoxAnswerer.h"
 #include "Physics/PhysicsWorld.h"
 #include "RepositoryServer.h"
 #include "Web/DownloadDialog.h"
@@ -27,26 +28,6 @@
 #include <functional>
 
 namespace {
-// Answers every message box that opens from now on with Ok, keeping its text.
-class MessageBoxAnswerer : public QObject
-{
-public:
-    MessageBoxAnswerer()
-    {
-        connect(&timer, &QTimer::timeout, this, [this] {
-            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                texts.append(box->text());
-                box->accept();
-            }
-        });
-        timer.start(20);
-    }
-    QStringList texts;
-
-private:
-    QTimer timer;
-};
-
 // Runs `work` once the dialog of the given kind is the modal one, then goes on.
 template<typename Dialog> void whenModal(const std::function<void(Dialog*)>& work)
 {
