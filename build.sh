@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds, and then starts Brivane or runs its tests.
+# Installs what is missing, builds, and then starts Brivane, runs its tests or packs it.
 #   ./build.sh run            build and start the program
 #   ./build.sh test           build and run the whole test suite
 #   ./build.sh test sanitize  the same with AddressSanitizer and UndefinedBehaviorSanitizer
+#   ./build.sh package        build and make the Debian package build/brivane_<version>_<arch>.deb
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -20,6 +21,9 @@ packages=(
     fonts-dejavu-core fonts-ipafont-gothic fonts-wqy-zenhei
     # Renders exported PDF pictures in the tests.
     poppler-utils
+    # The Debian package, and the checks of the installation's desktop entry, AppStream data,
+    # MIME type and icons.
+    dpkg-dev file desktop-file-utils appstream shared-mime-info
 )
 
 install_missing() {
@@ -50,5 +54,7 @@ cmake --build "$build_dir"
 case "$action" in
     run) exec "$build_dir/bin/Brivane" ;;
     test) cd "$build_dir" && exec ctest --output-on-failure ;;
-    *) echo "usage: $0 run|test [sanitize]" >&2; exit 2 ;;
+    # An older version's package would lie beside the new one.
+    package) rm -f "$build_dir"/brivane_*.deb && exec cmake --build "$build_dir" --target package ;;
+    *) echo "usage: $0 run|test|package [sanitize]" >&2; exit 2 ;;
 esac

@@ -1,4 +1,5 @@
-// Renders one SVG file to a PNG of the SVG's own size. Used by the build only.
+// Renders one SVG file to a PNG, at the SVG's own size or fitted into a square of the given
+// size in pixels (the desktop's icon sizes). Used by the build only.
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
@@ -8,8 +9,8 @@
 int main(int argc, char* argv[])
 {
     QGuiApplication application(argc, argv);
-    if (argc != 3) {
-        std::fprintf(stderr, "usage: RenderSvg input.svg output.png\n");
+    if (argc != 3 && argc != 4) {
+        std::fprintf(stderr, "usage: RenderSvg input.svg output.png [size]\n");
         return 2;
     }
     QSvgRenderer renderer(QString::fromLocal8Bit(argv[1]));
@@ -17,7 +18,17 @@ int main(int argc, char* argv[])
         std::fprintf(stderr, "RenderSvg: cannot read %s\n", argv[1]);
         return 1;
     }
-    QImage image(renderer.defaultSize(), QImage::Format_ARGB32_Premultiplied);
+    QSize size = renderer.defaultSize();
+    if (argc == 4) {
+        bool isNumber = false;
+        const int side = QString::fromLocal8Bit(argv[3]).toInt(&isNumber);
+        if (!isNumber || side <= 0) {
+            std::fprintf(stderr, "RenderSvg: %s is no size in pixels\n", argv[3]);
+            return 2;
+        }
+        size.scale(side, side, Qt::KeepAspectRatio);
+    }
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);

@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>Credits</source>
+        <translation>Mitwirkende</translation>
+    </message>
+    <message>
+        <source>ChangeLog</source>
+        <translation>Änderungen</translation>
+    </message>
+    <message>
+        <source>About </source>
+        <translation>Über </translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Could not remove temp directory.</source>
@@ -46,6 +65,14 @@
     <message>
         <source>The script was stopped.</source>
         <translation>Das Skript wurde angehalten.</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Could not open the scene %1.</source>
+        <translation>Die Szene %1 konnte nicht geöffnet werden.</translation>
     </message>
 </context>
 <context>
@@ -497,6 +524,13 @@
     <message>
         <source>Shoot Item</source>
         <translation>Objekt abschießen</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWidget</name>
+    <message>
+        <source>Brivane Help</source>
+        <translation>Brivane-Hilfe</translation>
     </message>
 </context>
 <context>
@@ -1374,6 +1408,38 @@ Bitte speichern Sie die Szene und versuchen Sie es erneut.</translation>
         <source>Text</source>
         <translation>Text</translation>
     </message>
+    <message>
+        <source>A two-dimensional physics sandbox.</source>
+        <translation>Ein zweidimensionaler Physik-Sandkasten.</translation>
+    </message>
+    <message>
+        <source>A scene file to open.</source>
+        <translation>Eine zu öffnende Szenendatei.</translation>
+    </message>
+    <message>
+        <source>Updates Available</source>
+        <translation>Aktualisierungen verfügbar</translation>
+    </message>
+    <message>
+        <source>A new version of Brivane is available.
+Update the application?</source>
+        <translation>Eine neue Version von Brivane ist verfügbar.
+Das Programm aktualisieren?</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Failed to launch the updater.
+Please run it manually using the following command:
+
+%1/maintenancetool</source>
+        <translation>Das Aktualisierungsprogramm konnte nicht gestartet werden.
+Bitte starten Sie es von Hand mit folgendem Befehl:
+
+%1/maintenancetool</translation>
+    </message>
 </context>
 <context>
     <name>QuickLoadWidget</name>
@@ -1571,6 +1637,21 @@ Höhe=%2</translation>
     </message>
 </context>
 <context>
+    <name>SocialDialog</name>
+    <message>
+        <source>%1 is a &lt;b&gt;free software&lt;/b&gt;. Please &lt;b&gt;support it&lt;/b&gt; by submitting it to your favourite social networking sites using the buttons below.</source>
+        <translation>%1 ist &lt;b&gt;freie Software&lt;/b&gt;. Bitte &lt;b&gt;unterstützen Sie es&lt;/b&gt;, indem Sie es mit den Knöpfen unten auf Ihren liebsten sozialen Netzwerken teilen.</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Please Support %1</source>
+        <translation>Bitte unterstützen Sie %1</translation>
+    </message>
+</context>
+<context>
     <name>SpringForceAction</name>
     <message>
         <source>Create Spring</source>
@@ -1623,6 +1704,53 @@ Höhe=%2</translation>
     <message>
         <source>Font Size</source>
         <translation>Schriftgröße</translation>
+    </message>
+</context>
+<context>
+    <name>TipDialog</name>
+    <message>
+        <source>Tip of the Day</source>
+        <translation>Tipp des Tages</translation>
+    </message>
+    <message>
+        <source>Show tip at startup</source>
+        <translation>Tipp beim Start zeigen</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>You could &lt;B&gt;improve rendering performance&lt;/B&gt; by enabling OpenGL in settings.</source>
+        <translation>Sie können die &lt;B&gt;Darstellung beschleunigen&lt;/B&gt;, indem Sie OpenGL in den Einstellungen einschalten.</translation>
+    </message>
+    <message>
+        <source>You can show and hide the Property Editor using Shift+P.</source>
+        <translation>Mit Umschalt+P zeigen und verbergen Sie den Eigenschaftseditor.</translation>
+    </message>
+    <message>
+        <source>You can show and hide the Console using Shift+~.</source>
+        <translation>Mit Umschalt+~ zeigen und verbergen Sie die Konsole.</translation>
+    </message>
+    <message>
+        <source>You can switch between &lt;B&gt;perspectives&lt;/B&gt; using &lt;I&gt;Alt + 1 .. 4&lt;/I&gt;.</source>
+        <translation>Mit &lt;I&gt;Alt + 1 .. 4&lt;/I&gt; wechseln Sie zwischen den &lt;B&gt;Ansichten&lt;/B&gt;.</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;Download&lt;/B&gt; scenes that other people have created by selecting &lt;I&gt;File::Download&lt;/I&gt; from the menu bar.</source>
+        <translation>&lt;B&gt;Laden Sie&lt;/B&gt; Szenen anderer Leute über &lt;I&gt;Datei::Herunterladen&lt;/I&gt; in der Menüleiste &lt;B&gt;herunter&lt;/B&gt;.</translation>
+    </message>
+    <message>
+        <source>You can &lt;B&gt;upload&lt;/B&gt; your scene to &lt;A HREF=&apos;%1&apos;&gt;%2&lt;/A&gt; by selecting &lt;I&gt;File::Upload&lt;/I&gt; from the menu bar.</source>
+        <translation>Über &lt;I&gt;Datei::Hochladen&lt;/I&gt; in der Menüleiste können Sie Ihre Szene auf &lt;A HREF=&apos;%1&apos;&gt;%2&lt;/A&gt; &lt;B&gt;hochladen&lt;/B&gt;.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="el_GR">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About</source>
+        <translation>Σχετικά</translation>
+    </message>
+    <message>
+        <source>Credits</source>
+        <translation>Συντελεστές</translation>
+    </message>
+    <message>
+        <source>ChangeLog</source>
+        <translation>Αλλαγές</translation>
+    </message>
+    <message>
+        <source>About </source>
+        <translation>Σχετικά με </translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Could not remove temp directory.</source>
@@ -46,6 +65,14 @@
     <message>
         <source>The script was stopped.</source>
         <translation>Το σενάριο σταμάτησε.</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Σφάλμα</translation>
+    </message>
+    <message>
+        <source>Could not open the scene %1.</source>
+        <translation>Δεν ήταν δυνατό το άνοιγμα της σκηνής %1.</translation>
     </message>
 </context>
 <context>
@@ -497,6 +524,13 @@
     <message>
         <source>Shoot Item</source>
         <translation>Εκτόξευση αντικειμένου</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWidget</name>
+    <message>
+        <source>Brivane Help</source>
+        <translation>Βοήθεια Brivane</translation>
     </message>
 </context>
 <context>
@@ -1374,6 +1408,38 @@ Please save the scene and try again.</source>
         <source>Text</source>
         <translation>Κείμενο</translation>
     </message>
+    <message>
+        <source>A two-dimensional physics sandbox.</source>
+        <translation>Ένα δισδιάστατο περιβάλλον πειραμάτων φυσικής.</translation>
+    </message>
+    <message>
+        <source>A scene file to open.</source>
+        <translation>Ένα αρχείο σκηνής για άνοιγμα.</translation>
+    </message>
+    <message>
+        <source>Updates Available</source>
+        <translation>Διαθέσιμες ενημερώσεις</translation>
+    </message>
+    <message>
+        <source>A new version of Brivane is available.
+Update the application?</source>
+        <translation>Μια νέα έκδοση του Brivane είναι διαθέσιμη.
+Ενημέρωση της εφαρμογής;</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Σφάλμα</translation>
+    </message>
+    <message>
+        <source>Failed to launch the updater.
+Please run it manually using the following command:
+
+%1/maintenancetool</source>
+        <translation>Η εκκίνηση του προγράμματος ενημέρωσης απέτυχε.
+Εκτελέστε το χειροκίνητα με την εντολή:
+
+%1/maintenancetool</translation>
+    </message>
 </context>
 <context>
     <name>QuickLoadWidget</name>
@@ -1571,6 +1637,21 @@ height=%2</source>
     </message>
 </context>
 <context>
+    <name>SocialDialog</name>
+    <message>
+        <source>%1 is a &lt;b&gt;free software&lt;/b&gt;. Please &lt;b&gt;support it&lt;/b&gt; by submitting it to your favourite social networking sites using the buttons below.</source>
+        <translation>Το %1 είναι &lt;b&gt;ελεύθερο λογισμικό&lt;/b&gt;. &lt;b&gt;Υποστηρίξτε το&lt;/b&gt; κοινοποιώντας το στα αγαπημένα σας κοινωνικά δίκτυα με τα παρακάτω κουμπιά.</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Έξοδος</translation>
+    </message>
+    <message>
+        <source>Please Support %1</source>
+        <translation>Υποστηρίξτε το %1</translation>
+    </message>
+</context>
+<context>
     <name>SpringForceAction</name>
     <message>
         <source>Create Spring</source>
@@ -1623,6 +1704,53 @@ height=%2</source>
     <message>
         <source>Font Size</source>
         <translation>Μέγεθος γραμματοσειράς</translation>
+    </message>
+</context>
+<context>
+    <name>TipDialog</name>
+    <message>
+        <source>Tip of the Day</source>
+        <translation>Συμβουλή της ημέρας</translation>
+    </message>
+    <message>
+        <source>Show tip at startup</source>
+        <translation>Εμφάνιση συμβουλής στην εκκίνηση</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Προηγούμενη</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Επόμενη</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Κλείσιμο</translation>
+    </message>
+    <message>
+        <source>You could &lt;B&gt;improve rendering performance&lt;/B&gt; by enabling OpenGL in settings.</source>
+        <translation>Μπορείτε να &lt;B&gt;βελτιώσετε την ταχύτητα σχεδίασης&lt;/B&gt; ενεργοποιώντας το OpenGL στις ρυθμίσεις.</translation>
+    </message>
+    <message>
+        <source>You can show and hide the Property Editor using Shift+P.</source>
+        <translation>Εμφανίζετε και κρύβετε τον επεξεργαστή ιδιοτήτων με Shift+P.</translation>
+    </message>
+    <message>
+        <source>You can show and hide the Console using Shift+~.</source>
+        <translation>Εμφανίζετε και κρύβετε την κονσόλα με Shift+~.</translation>
+    </message>
+    <message>
+        <source>You can switch between &lt;B&gt;perspectives&lt;/B&gt; using &lt;I&gt;Alt + 1 .. 4&lt;/I&gt;.</source>
+        <translation>Αλλάζετε &lt;B&gt;προοπτική&lt;/B&gt; με &lt;I&gt;Alt + 1 .. 4&lt;/I&gt;.</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;Download&lt;/B&gt; scenes that other people have created by selecting &lt;I&gt;File::Download&lt;/I&gt; from the menu bar.</source>
+        <translation>&lt;B&gt;Κατεβάστε&lt;/B&gt; σκηνές άλλων από το &lt;I&gt;Αρχείο::Λήψη&lt;/I&gt; στη γραμμή μενού.</translation>
+    </message>
+    <message>
+        <source>You can &lt;B&gt;upload&lt;/B&gt; your scene to &lt;A HREF=&apos;%1&apos;&gt;%2&lt;/A&gt; by selecting &lt;I&gt;File::Upload&lt;/I&gt; from the menu bar.</source>
+        <translation>Μπορείτε να &lt;B&gt;ανεβάσετε&lt;/B&gt; τη σκηνή σας στο &lt;A HREF=&apos;%1&apos;&gt;%2&lt;/A&gt; από το &lt;I&gt;Αρχείο::Μεταφόρτωση&lt;/I&gt; στη γραμμή μενού.</translation>
     </message>
 </context>
 <context>

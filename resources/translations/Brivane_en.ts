@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About</source>
+        <translation>About</translation>
+    </message>
+    <message>
+        <source>Credits</source>
+        <translation>Credits</translation>
+    </message>
+    <message>
+        <source>ChangeLog</source>
+        <translation>ChangeLog</translation>
+    </message>
+    <message>
+        <source>About </source>
+        <translation>About </translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Could not remove temp directory.</source>
@@ -46,6 +65,14 @@
     <message>
         <source>The script was stopped.</source>
         <translation>The script was stopped.</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Could not open the scene %1.</source>
+        <translation>Could not open the scene %1.</translation>
     </message>
 </context>
 <context>
@@ -497,6 +524,13 @@
     <message>
         <source>Shoot Item</source>
         <translation>Shoot Item</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWidget</name>
+    <message>
+        <source>Brivane Help</source>
+        <translation>Brivane Help</translation>
     </message>
 </context>
 <context>
@@ -1374,6 +1408,38 @@ Please save the scene and try again.</translation>
         <source>Text</source>
         <translation>Text</translation>
     </message>
+    <message>
+        <source>A two-dimensional physics sandbox.</source>
+        <translation>A two-dimensional physics sandbox.</translation>
+    </message>
+    <message>
+        <source>A scene file to open.</source>
+        <translation>A scene file to open.</translation>
+    </message>
+    <message>
+        <source>Updates Available</source>
+        <translation>Updates Available</translation>
+    </message>
+    <message>
+        <source>A new version of Brivane is available.
+Update the application?</source>
+        <translation>A new version of Brivane is available.
+Update the application?</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Failed to launch the updater.
+Please run it manually using the following command:
+
+%1/maintenancetool</source>
+        <translation>Failed to launch the updater.
+Please run it manually using the following command:
+
+%1/maintenancetool</translation>
+    </message>
 </context>
 <context>
     <name>QuickLoadWidget</name>
@@ -1571,6 +1637,21 @@ height=%2</translation>
     </message>
 </context>
 <context>
+    <name>SocialDialog</name>
+    <message>
+        <source>%1 is a &lt;b&gt;free software&lt;/b&gt;. Please &lt;b&gt;support it&lt;/b&gt; by submitting it to your favourite social networking sites using the buttons below.</source>
+        <translation>%1 is a &lt;b&gt;free software&lt;/b&gt;. Please &lt;b&gt;support it&lt;/b&gt; by submitting it to your favourite social networking sites using the buttons below.</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quit</translation>
+    </message>
+    <message>
+        <source>Please Support %1</source>
+        <translation>Please Support %1</translation>
+    </message>
+</context>
+<context>
     <name>SpringForceAction</name>
     <message>
         <source>Create Spring</source>
@@ -1623,6 +1704,53 @@ height=%2</translation>
     <message>
         <source>Font Size</source>
         <translation>Font Size</translation>
+    </message>
+</context>
+<context>
+    <name>TipDialog</name>
+    <message>
+        <source>Tip of the Day</source>
+        <translation>Tip of the Day</translation>
+    </message>
+    <message>
+        <source>Show tip at startup</source>
+        <translation>Show tip at startup</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Previous</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Next</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>You could &lt;B&gt;improve rendering performance&lt;/B&gt; by enabling OpenGL in settings.</source>
+        <translation>You could &lt;B&gt;improve rendering performance&lt;/B&gt; by enabling OpenGL in settings.</translation>
+    </message>
+    <message>
+        <source>You can show and hide the Property Editor using Shift+P.</source>
+        <translation>You can show and hide the Property Editor using Shift+P.</translation>
+    </message>
+    <message>
+        <source>You can show and hide the Console using Shift+~.</source>
+        <translation>You can show and hide the Console using Shift+~.</translation>
+    </message>
+    <message>
+        <source>You can switch between &lt;B&gt;perspectives&lt;/B&gt; using &lt;I&gt;Alt + 1 .. 4&lt;/I&gt;.</source>
+        <translation>You can switch between &lt;B&gt;perspectives&lt;/B&gt; using &lt;I&gt;Alt + 1 .. 4&lt;/I&gt;.</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;Download&lt;/B&gt; scenes that other people have created by selecting &lt;I&gt;File::Download&lt;/I&gt; from the menu bar.</source>
+        <translation>&lt;B&gt;Download&lt;/B&gt; scenes that other people have created by selecting &lt;I&gt;File::Download&lt;/I&gt; from the menu bar.</translation>
+    </message>
+    <message>
+        <source>You can &lt;B&gt;upload&lt;/B&gt; your scene to &lt;A HREF=&apos;%1&apos;&gt;%2&lt;/A&gt; by selecting &lt;I&gt;File::Upload&lt;/I&gt; from the menu bar.</source>
+        <translation>You can &lt;B&gt;upload&lt;/B&gt; your scene to &lt;A HREF=&apos;%1&apos;&gt;%2&lt;/A&gt; by selecting &lt;I&gt;File::Upload&lt;/I&gt; from the menu bar.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es_ES">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>Credits</source>
+        <translation>Créditos</translation>
+    </message>
+    <message>
+        <source>ChangeLog</source>
+        <translation>Cambios</translation>
+    </message>
+    <message>
+        <source>About </source>
+        <translation>Acerca de </translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Could not remove temp directory.</source>
@@ -46,6 +65,14 @@
     <message>
         <source>The script was stopped.</source>
         <translation>El script se detuvo.</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Could not open the scene %1.</source>
+        <translation>No se pudo abrir la escena %1.</translation>
     </message>
 </context>
 <context>
@@ -497,6 +524,13 @@
     <message>
         <source>Shoot Item</source>
         <translation>Disparar elemento</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWidget</name>
+    <message>
+        <source>Brivane Help</source>
+        <translation>Ayuda de Brivane</translation>
     </message>
 </context>
 <context>
@@ -1374,6 +1408,38 @@ Guarde la escena e inténtelo de nuevo.</translation>
         <source>Text</source>
         <translation>Texto</translation>
     </message>
+    <message>
+        <source>A two-dimensional physics sandbox.</source>
+        <translation>Un arenero de física bidimensional.</translation>
+    </message>
+    <message>
+        <source>A scene file to open.</source>
+        <translation>Un archivo de escena para abrir.</translation>
+    </message>
+    <message>
+        <source>Updates Available</source>
+        <translation>Actualizaciones disponibles</translation>
+    </message>
+    <message>
+        <source>A new version of Brivane is available.
+Update the application?</source>
+        <translation>Hay una nueva versión de Brivane.
+¿Actualizar la aplicación?</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Failed to launch the updater.
+Please run it manually using the following command:
+
+%1/maintenancetool</source>
+        <translation>No se pudo iniciar el actualizador.
+Ejecútelo manualmente con la siguiente orden:
+
+%1/maintenancetool</translation>
+    </message>
 </context>
 <context>
     <name>QuickLoadWidget</name>
@@ -1571,6 +1637,21 @@ alto=%2</translation>
     </message>
 </context>
 <context>
+    <name>SocialDialog</name>
+    <message>
+        <source>%1 is a &lt;b&gt;free software&lt;/b&gt;. Please &lt;b&gt;support it&lt;/b&gt; by submitting it to your favourite social networking sites using the buttons below.</source>
+        <translation>%1 es &lt;b&gt;software libre&lt;/b&gt;. &lt;b&gt;Apóyelo&lt;/b&gt; compartiéndolo en sus redes sociales favoritas con los botones de abajo.</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <source>Please Support %1</source>
+        <translation>Apoye a %1</translation>
+    </message>
+</context>
+<context>
     <name>SpringForceAction</name>
     <message>
         <source>Create Spring</source>
@@ -1623,6 +1704,53 @@ alto=%2</translation>
     <message>
         <source>Font Size</source>
         <translation>Tamaño de letra</translation>
+    </message>
+</context>
+<context>
+    <name>TipDialog</name>
+    <message>
+        <source>Tip of the Day</source>
+        <translation>Consejo del día</translation>
+    </message>
+    <message>
+        <source>Show tip at startup</source>
+        <translation>Mostrar consejo al inicio</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Anterior</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Siguiente</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>You could &lt;B&gt;improve rendering performance&lt;/B&gt; by enabling OpenGL in settings.</source>
+        <translation>Puede &lt;B&gt;mejorar el rendimiento del dibujo&lt;/B&gt; activando OpenGL en los ajustes.</translation>
+    </message>
+    <message>
+        <source>You can show and hide the Property Editor using Shift+P.</source>
+        <translation>Puede mostrar y ocultar el editor de propiedades con Mayús+P.</translation>
+    </message>
+    <message>
+        <source>You can show and hide the Console using Shift+~.</source>
+        <translation>Puede mostrar y ocultar la consola con Mayús+~.</translation>
+    </message>
+    <message>
+        <source>You can switch between &lt;B&gt;perspectives&lt;/B&gt; using &lt;I&gt;Alt + 1 .. 4&lt;/I&gt;.</source>
+        <translation>Puede cambiar de &lt;B&gt;perspectiva&lt;/B&gt; con &lt;I&gt;Alt + 1 .. 4&lt;/I&gt;.</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;Download&lt;/B&gt; scenes that other people have created by selecting &lt;I&gt;File::Download&lt;/I&gt; from the menu bar.</source>
+        <translation>&lt;B&gt;Descargue&lt;/B&gt; escenas creadas por otras personas con &lt;I&gt;Archivo::Descargar&lt;/I&gt; en la barra de menús.</translation>
+    </message>
+    <message>
+        <source>You can &lt;B&gt;upload&lt;/B&gt; your scene to &lt;A HREF=&apos;%1&apos;&gt;%2&lt;/A&gt; by selecting &lt;I&gt;File::Upload&lt;/I&gt; from the menu bar.</source>
+        <translation>Puede &lt;B&gt;subir&lt;/B&gt; su escena a &lt;A HREF=&apos;%1&apos;&gt;%2&lt;/A&gt; con &lt;I&gt;Archivo::Subir&lt;/I&gt; en la barra de menús.</translation>
     </message>
 </context>
 <context>

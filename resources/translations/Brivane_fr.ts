@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>Credits</source>
+        <translation>Remerciements</translation>
+    </message>
+    <message>
+        <source>ChangeLog</source>
+        <translation>Modifications</translation>
+    </message>
+    <message>
+        <source>About </source>
+        <translation>À propos de </translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Could not remove temp directory.</source>
@@ -46,6 +65,14 @@
     <message>
         <source>The script was stopped.</source>
         <translation>Le script a été arrêté.</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Could not open the scene %1.</source>
+        <translation>Impossible d&apos;ouvrir la scène %1.</translation>
     </message>
 </context>
 <context>
@@ -497,6 +524,13 @@
     <message>
         <source>Shoot Item</source>
         <translation>Tirer un objet</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWidget</name>
+    <message>
+        <source>Brivane Help</source>
+        <translation>Aide de Brivane</translation>
     </message>
 </context>
 <context>
@@ -1374,6 +1408,38 @@ Enregistrez la scène et réessayez.</translation>
         <source>Text</source>
         <translation>Texte</translation>
     </message>
+    <message>
+        <source>A two-dimensional physics sandbox.</source>
+        <translation>Un bac à sable de physique en deux dimensions.</translation>
+    </message>
+    <message>
+        <source>A scene file to open.</source>
+        <translation>Un fichier de scène à ouvrir.</translation>
+    </message>
+    <message>
+        <source>Updates Available</source>
+        <translation>Mises à jour disponibles</translation>
+    </message>
+    <message>
+        <source>A new version of Brivane is available.
+Update the application?</source>
+        <translation>Une nouvelle version de Brivane est disponible.
+Mettre à jour l&apos;application ?</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Failed to launch the updater.
+Please run it manually using the following command:
+
+%1/maintenancetool</source>
+        <translation>Impossible de lancer le programme de mise à jour.
+Lancez-le à la main avec la commande suivante :
+
+%1/maintenancetool</translation>
+    </message>
 </context>
 <context>
     <name>QuickLoadWidget</name>
@@ -1571,6 +1637,21 @@ hauteur=%2</translation>
     </message>
 </context>
 <context>
+    <name>SocialDialog</name>
+    <message>
+        <source>%1 is a &lt;b&gt;free software&lt;/b&gt;. Please &lt;b&gt;support it&lt;/b&gt; by submitting it to your favourite social networking sites using the buttons below.</source>
+        <translation>%1 est un &lt;b&gt;logiciel libre&lt;/b&gt;. &lt;b&gt;Soutenez-le&lt;/b&gt; en le partageant sur vos réseaux sociaux préférés avec les boutons ci-dessous.</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Please Support %1</source>
+        <translation>Soutenez %1</translation>
+    </message>
+</context>
+<context>
     <name>SpringForceAction</name>
     <message>
         <source>Create Spring</source>
@@ -1623,6 +1704,53 @@ hauteur=%2</translation>
     <message>
         <source>Font Size</source>
         <translation>Taille de police</translation>
+    </message>
+</context>
+<context>
+    <name>TipDialog</name>
+    <message>
+        <source>Tip of the Day</source>
+        <translation>Astuce du jour</translation>
+    </message>
+    <message>
+        <source>Show tip at startup</source>
+        <translation>Afficher l&apos;astuce au démarrage</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Précédente</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Suivante</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>You could &lt;B&gt;improve rendering performance&lt;/B&gt; by enabling OpenGL in settings.</source>
+        <translation>Vous pouvez &lt;B&gt;accélérer l&apos;affichage&lt;/B&gt; en activant OpenGL dans les réglages.</translation>
+    </message>
+    <message>
+        <source>You can show and hide the Property Editor using Shift+P.</source>
+        <translation>Vous pouvez afficher et masquer l&apos;éditeur de propriétés avec Maj+P.</translation>
+    </message>
+    <message>
+        <source>You can show and hide the Console using Shift+~.</source>
+        <translation>Vous pouvez afficher et masquer la console avec Maj+~.</translation>
+    </message>
+    <message>
+        <source>You can switch between &lt;B&gt;perspectives&lt;/B&gt; using &lt;I&gt;Alt + 1 .. 4&lt;/I&gt;.</source>
+        <translation>Vous pouvez changer de &lt;B&gt;perspective&lt;/B&gt; avec &lt;I&gt;Alt + 1 .. 4&lt;/I&gt;.</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;Download&lt;/B&gt; scenes that other people have created by selecting &lt;I&gt;File::Download&lt;/I&gt; from the menu bar.</source>
+        <translation>&lt;B&gt;Téléchargez&lt;/B&gt; les scènes créées par d&apos;autres avec &lt;I&gt;Fichier::Télécharger&lt;/I&gt; dans la barre de menus.</translation>
+    </message>
+    <message>
+        <source>You can &lt;B&gt;upload&lt;/B&gt; your scene to &lt;A HREF=&apos;%1&apos;&gt;%2&lt;/A&gt; by selecting &lt;I&gt;File::Upload&lt;/I&gt; from the menu bar.</source>
+        <translation>Vous pouvez &lt;B&gt;envoyer&lt;/B&gt; votre scène sur &lt;A HREF=&apos;%1&apos;&gt;%2&lt;/A&gt; avec &lt;I&gt;Fichier::Envoyer&lt;/I&gt; dans la barre de menus.</translation>
     </message>
 </context>
 <context>

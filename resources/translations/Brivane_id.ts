@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="id_ID">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About</source>
+        <translation>Tentang</translation>
+    </message>
+    <message>
+        <source>Credits</source>
+        <translation>Kredit</translation>
+    </message>
+    <message>
+        <source>ChangeLog</source>
+        <translation>Perubahan</translation>
+    </message>
+    <message>
+        <source>About </source>
+        <translation>Tentang </translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Could not remove temp directory.</source>
@@ -46,6 +65,14 @@
     <message>
         <source>The script was stopped.</source>
         <translation>Skrip dihentikan.</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Galat</translation>
+    </message>
+    <message>
+        <source>Could not open the scene %1.</source>
+        <translation>Adegan %1 tidak dapat dibuka.</translation>
     </message>
 </context>
 <context>
@@ -497,6 +524,13 @@
     <message>
         <source>Shoot Item</source>
         <translation>Tembakkan Objek</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWidget</name>
+    <message>
+        <source>Brivane Help</source>
+        <translation>Bantuan Brivane</translation>
     </message>
 </context>
 <context>
@@ -1374,6 +1408,38 @@ Simpan adegan lalu coba lagi.</translation>
         <source>Text</source>
         <translation>Teks</translation>
     </message>
+    <message>
+        <source>A two-dimensional physics sandbox.</source>
+        <translation>Kotak pasir fisika dua dimensi.</translation>
+    </message>
+    <message>
+        <source>A scene file to open.</source>
+        <translation>Berkas adegan yang akan dibuka.</translation>
+    </message>
+    <message>
+        <source>Updates Available</source>
+        <translation>Pembaruan tersedia</translation>
+    </message>
+    <message>
+        <source>A new version of Brivane is available.
+Update the application?</source>
+        <translation>Versi baru Brivane tersedia.
+Perbarui aplikasi?</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Galat</translation>
+    </message>
+    <message>
+        <source>Failed to launch the updater.
+Please run it manually using the following command:
+
+%1/maintenancetool</source>
+        <translation>Gagal menjalankan pembaru.
+Jalankan secara manual dengan perintah berikut:
+
+%1/maintenancetool</translation>
+    </message>
 </context>
 <context>
     <name>QuickLoadWidget</name>
@@ -1571,6 +1637,21 @@ tinggi=%2</translation>
     </message>
 </context>
 <context>
+    <name>SocialDialog</name>
+    <message>
+        <source>%1 is a &lt;b&gt;free software&lt;/b&gt;. Please &lt;b&gt;support it&lt;/b&gt; by submitting it to your favourite social networking sites using the buttons below.</source>
+        <translation>%1 adalah &lt;b&gt;perangkat lunak bebas&lt;/b&gt;. &lt;b&gt;Dukunglah&lt;/b&gt; dengan membagikannya ke jejaring sosial favorit Anda melalui tombol di bawah.</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Keluar</translation>
+    </message>
+    <message>
+        <source>Please Support %1</source>
+        <translation>Dukung %1</translation>
+    </message>
+</context>
+<context>
     <name>SpringForceAction</name>
     <message>
         <source>Create Spring</source>
@@ -1623,6 +1704,53 @@ tinggi=%2</translation>
     <message>
         <source>Font Size</source>
         <translation>Ukuran huruf</translation>
+    </message>
+</context>
+<context>
+    <name>TipDialog</name>
+    <message>
+        <source>Tip of the Day</source>
+        <translation>Tip hari ini</translation>
+    </message>
+    <message>
+        <source>Show tip at startup</source>
+        <translation>Tampilkan tip saat mulai</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Sebelumnya</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Berikutnya</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Tutup</translation>
+    </message>
+    <message>
+        <source>You could &lt;B&gt;improve rendering performance&lt;/B&gt; by enabling OpenGL in settings.</source>
+        <translation>Anda dapat &lt;B&gt;mempercepat tampilan&lt;/B&gt; dengan mengaktifkan OpenGL di pengaturan.</translation>
+    </message>
+    <message>
+        <source>You can show and hide the Property Editor using Shift+P.</source>
+        <translation>Tampilkan dan sembunyikan Editor Properti dengan Shift+P.</translation>
+    </message>
+    <message>
+        <source>You can show and hide the Console using Shift+~.</source>
+        <translation>Tampilkan dan sembunyikan Konsol dengan Shift+~.</translation>
+    </message>
+    <message>
+        <source>You can switch between &lt;B&gt;perspectives&lt;/B&gt; using &lt;I&gt;Alt + 1 .. 4&lt;/I&gt;.</source>
+        <translation>Beralih antar &lt;B&gt;perspektif&lt;/B&gt; dengan &lt;I&gt;Alt + 1 .. 4&lt;/I&gt;.</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;Download&lt;/B&gt; scenes that other people have created by selecting &lt;I&gt;File::Download&lt;/I&gt; from the menu bar.</source>
+        <translation>&lt;B&gt;Unduh&lt;/B&gt; adegan buatan orang lain melalui &lt;I&gt;Berkas::Unduh&lt;/I&gt; di bilah menu.</translation>
+    </message>
+    <message>
+        <source>You can &lt;B&gt;upload&lt;/B&gt; your scene to &lt;A HREF=&apos;%1&apos;&gt;%2&lt;/A&gt; by selecting &lt;I&gt;File::Upload&lt;/I&gt; from the menu bar.</source>
+        <translation>Anda dapat &lt;B&gt;mengunggah&lt;/B&gt; adegan ke &lt;A HREF=&apos;%1&apos;&gt;%2&lt;/A&gt; melalui &lt;I&gt;Berkas::Unggah&lt;/I&gt; di bilah menu.</translation>
     </message>
 </context>
 <context>

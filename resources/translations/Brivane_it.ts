@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it_IT">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About</source>
+        <translation>Informazioni</translation>
+    </message>
+    <message>
+        <source>Credits</source>
+        <translation>Riconoscimenti</translation>
+    </message>
+    <message>
+        <source>ChangeLog</source>
+        <translation>Modifiche</translation>
+    </message>
+    <message>
+        <source>About </source>
+        <translation>Informazioni su </translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Could not remove temp directory.</source>
@@ -46,6 +65,14 @@
     <message>
         <source>The script was stopped.</source>
         <translation>Lo script è stato interrotto.</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Errore</translation>
+    </message>
+    <message>
+        <source>Could not open the scene %1.</source>
+        <translation>Impossibile aprire la scena %1.</translation>
     </message>
 </context>
 <context>
@@ -497,6 +524,13 @@
     <message>
         <source>Shoot Item</source>
         <translation>Spara oggetto</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWidget</name>
+    <message>
+        <source>Brivane Help</source>
+        <translation>Guida di Brivane</translation>
     </message>
 </context>
 <context>
@@ -1374,6 +1408,38 @@ Salva la scena e riprova.</translation>
         <source>Text</source>
         <translation>Testo</translation>
     </message>
+    <message>
+        <source>A two-dimensional physics sandbox.</source>
+        <translation>Una sandbox di fisica bidimensionale.</translation>
+    </message>
+    <message>
+        <source>A scene file to open.</source>
+        <translation>Un file di scena da aprire.</translation>
+    </message>
+    <message>
+        <source>Updates Available</source>
+        <translation>Aggiornamenti disponibili</translation>
+    </message>
+    <message>
+        <source>A new version of Brivane is available.
+Update the application?</source>
+        <translation>È disponibile una nuova versione di Brivane.
+Aggiornare l&apos;applicazione?</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Errore</translation>
+    </message>
+    <message>
+        <source>Failed to launch the updater.
+Please run it manually using the following command:
+
+%1/maintenancetool</source>
+        <translation>Impossibile avviare il programma di aggiornamento.
+Eseguilo a mano con il comando seguente:
+
+%1/maintenancetool</translation>
+    </message>
 </context>
 <context>
     <name>QuickLoadWidget</name>
@@ -1571,6 +1637,21 @@ altezza=%2</translation>
     </message>
 </context>
 <context>
+    <name>SocialDialog</name>
+    <message>
+        <source>%1 is a &lt;b&gt;free software&lt;/b&gt;. Please &lt;b&gt;support it&lt;/b&gt; by submitting it to your favourite social networking sites using the buttons below.</source>
+        <translation>%1 è &lt;b&gt;software libero&lt;/b&gt;. &lt;b&gt;Sostienilo&lt;/b&gt; condividendolo sui tuoi social network preferiti con i pulsanti qui sotto.</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Esci</translation>
+    </message>
+    <message>
+        <source>Please Support %1</source>
+        <translation>Sostieni %1</translation>
+    </message>
+</context>
+<context>
     <name>SpringForceAction</name>
     <message>
         <source>Create Spring</source>
@@ -1623,6 +1704,53 @@ altezza=%2</translation>
     <message>
         <source>Font Size</source>
         <translation>Dimensione carattere</translation>
+    </message>
+</context>
+<context>
+    <name>TipDialog</name>
+    <message>
+        <source>Tip of the Day</source>
+        <translation>Suggerimento del giorno</translation>
+    </message>
+    <message>
+        <source>Show tip at startup</source>
+        <translation>Mostra suggerimento all&apos;avvio</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Precedente</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Successivo</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>You could &lt;B&gt;improve rendering performance&lt;/B&gt; by enabling OpenGL in settings.</source>
+        <translation>Puoi &lt;B&gt;migliorare le prestazioni grafiche&lt;/B&gt; attivando OpenGL nelle impostazioni.</translation>
+    </message>
+    <message>
+        <source>You can show and hide the Property Editor using Shift+P.</source>
+        <translation>Puoi mostrare e nascondere l&apos;editor delle proprietà con Maiusc+P.</translation>
+    </message>
+    <message>
+        <source>You can show and hide the Console using Shift+~.</source>
+        <translation>Puoi mostrare e nascondere la console con Maiusc+~.</translation>
+    </message>
+    <message>
+        <source>You can switch between &lt;B&gt;perspectives&lt;/B&gt; using &lt;I&gt;Alt + 1 .. 4&lt;/I&gt;.</source>
+        <translation>Puoi passare da una &lt;B&gt;prospettiva&lt;/B&gt; all&apos;altra con &lt;I&gt;Alt + 1 .. 4&lt;/I&gt;.</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;Download&lt;/B&gt; scenes that other people have created by selecting &lt;I&gt;File::Download&lt;/I&gt; from the menu bar.</source>
+        <translation>&lt;B&gt;Scarica&lt;/B&gt; le scene create da altri con &lt;I&gt;File::Scarica&lt;/I&gt; nella barra dei menu.</translation>
+    </message>
+    <message>
+        <source>You can &lt;B&gt;upload&lt;/B&gt; your scene to &lt;A HREF=&apos;%1&apos;&gt;%2&lt;/A&gt; by selecting &lt;I&gt;File::Upload&lt;/I&gt; from the menu bar.</source>
+        <translation>Puoi &lt;B&gt;caricare&lt;/B&gt; la tua scena su &lt;A HREF=&apos;%1&apos;&gt;%2&lt;/A&gt; con &lt;I&gt;File::Carica&lt;/I&gt; nella barra dei menu.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About</source>
+        <translation>情報</translation>
+    </message>
+    <message>
+        <source>Credits</source>
+        <translation>クレジット</translation>
+    </message>
+    <message>
+        <source>ChangeLog</source>
+        <translation>変更履歴</translation>
+    </message>
+    <message>
+        <source>About </source>
+        <translation>情報: </translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Could not remove temp directory.</source>
@@ -46,6 +65,14 @@
     <message>
         <source>The script was stopped.</source>
         <translation>スクリプトを停止しました。</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Could not open the scene %1.</source>
+        <translation>シーン %1 を開けませんでした。</translation>
     </message>
 </context>
 <context>
@@ -497,6 +524,13 @@
     <message>
         <source>Shoot Item</source>
         <translation>アイテムを発射</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWidget</name>
+    <message>
+        <source>Brivane Help</source>
+        <translation>Brivane ヘルプ</translation>
     </message>
 </context>
 <context>
@@ -1374,6 +1408,38 @@ Please save the scene and try again.</source>
         <source>Text</source>
         <translation>テキスト</translation>
     </message>
+    <message>
+        <source>A two-dimensional physics sandbox.</source>
+        <translation>2次元物理サンドボックス。</translation>
+    </message>
+    <message>
+        <source>A scene file to open.</source>
+        <translation>開くシーンファイル。</translation>
+    </message>
+    <message>
+        <source>Updates Available</source>
+        <translation>更新があります</translation>
+    </message>
+    <message>
+        <source>A new version of Brivane is available.
+Update the application?</source>
+        <translation>Brivane の新しいバージョンがあります。
+アプリケーションを更新しますか？</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Failed to launch the updater.
+Please run it manually using the following command:
+
+%1/maintenancetool</source>
+        <translation>アップデーターを起動できませんでした。
+次のコマンドで手動で実行してください:
+
+%1/maintenancetool</translation>
+    </message>
 </context>
 <context>
     <name>QuickLoadWidget</name>
@@ -1571,6 +1637,21 @@ height=%2</source>
     </message>
 </context>
 <context>
+    <name>SocialDialog</name>
+    <message>
+        <source>%1 is a &lt;b&gt;free software&lt;/b&gt;. Please &lt;b&gt;support it&lt;/b&gt; by submitting it to your favourite social networking sites using the buttons below.</source>
+        <translation>%1 は&lt;b&gt;フリーソフトウェア&lt;/b&gt;です。下のボタンからお気に入りのソーシャルネットワークで紹介して&lt;b&gt;応援してください&lt;/b&gt;。</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Please Support %1</source>
+        <translation>%1 を応援してください</translation>
+    </message>
+</context>
+<context>
     <name>SpringForceAction</name>
     <message>
         <source>Create Spring</source>
@@ -1623,6 +1704,53 @@ height=%2</source>
     <message>
         <source>Font Size</source>
         <translation>フォントサイズ</translation>
+    </message>
+</context>
+<context>
+    <name>TipDialog</name>
+    <message>
+        <source>Tip of the Day</source>
+        <translation>今日のヒント</translation>
+    </message>
+    <message>
+        <source>Show tip at startup</source>
+        <translation>起動時にヒントを表示</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>前へ</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>次へ</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>You could &lt;B&gt;improve rendering performance&lt;/B&gt; by enabling OpenGL in settings.</source>
+        <translation>設定で OpenGL を有効にすると&lt;B&gt;描画を高速化&lt;/B&gt;できます。</translation>
+    </message>
+    <message>
+        <source>You can show and hide the Property Editor using Shift+P.</source>
+        <translation>Shift+P でプロパティエディターの表示を切り替えられます。</translation>
+    </message>
+    <message>
+        <source>You can show and hide the Console using Shift+~.</source>
+        <translation>Shift+~ でコンソールの表示を切り替えられます。</translation>
+    </message>
+    <message>
+        <source>You can switch between &lt;B&gt;perspectives&lt;/B&gt; using &lt;I&gt;Alt + 1 .. 4&lt;/I&gt;.</source>
+        <translation>&lt;I&gt;Alt + 1 .. 4&lt;/I&gt; で&lt;B&gt;パースペクティブ&lt;/B&gt;を切り替えられます。</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;Download&lt;/B&gt; scenes that other people have created by selecting &lt;I&gt;File::Download&lt;/I&gt; from the menu bar.</source>
+        <translation>メニューバーの&lt;I&gt;ファイル::ダウンロード&lt;/I&gt;で、他の人が作ったシーンを&lt;B&gt;ダウンロード&lt;/B&gt;できます。</translation>
+    </message>
+    <message>
+        <source>You can &lt;B&gt;upload&lt;/B&gt; your scene to &lt;A HREF=&apos;%1&apos;&gt;%2&lt;/A&gt; by selecting &lt;I&gt;File::Upload&lt;/I&gt; from the menu bar.</source>
+        <translation>メニューバーの&lt;I&gt;ファイル::アップロード&lt;/I&gt;で、シーンを &lt;A HREF=&apos;%1&apos;&gt;%2&lt;/A&gt; に&lt;B&gt;アップロード&lt;/B&gt;できます。</translation>
     </message>
 </context>
 <context>

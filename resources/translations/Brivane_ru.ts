@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About</source>
+        <translation>О программе</translation>
+    </message>
+    <message>
+        <source>Credits</source>
+        <translation>Благодарности</translation>
+    </message>
+    <message>
+        <source>ChangeLog</source>
+        <translation>Изменения</translation>
+    </message>
+    <message>
+        <source>About </source>
+        <translation>О программе </translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Could not remove temp directory.</source>
@@ -46,6 +65,14 @@
     <message>
         <source>The script was stopped.</source>
         <translation>Скрипт остановлен.</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Ошибка</translation>
+    </message>
+    <message>
+        <source>Could not open the scene %1.</source>
+        <translation>Не удалось открыть сцену %1.</translation>
     </message>
 </context>
 <context>
@@ -497,6 +524,13 @@
     <message>
         <source>Shoot Item</source>
         <translation>Выстрелить объектом</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWidget</name>
+    <message>
+        <source>Brivane Help</source>
+        <translation>Справка Brivane</translation>
     </message>
 </context>
 <context>
@@ -1374,6 +1408,38 @@ Please save the scene and try again.</source>
         <source>Text</source>
         <translation>Текст</translation>
     </message>
+    <message>
+        <source>A two-dimensional physics sandbox.</source>
+        <translation>Двумерная физическая песочница.</translation>
+    </message>
+    <message>
+        <source>A scene file to open.</source>
+        <translation>Файл сцены для открытия.</translation>
+    </message>
+    <message>
+        <source>Updates Available</source>
+        <translation>Доступны обновления</translation>
+    </message>
+    <message>
+        <source>A new version of Brivane is available.
+Update the application?</source>
+        <translation>Доступна новая версия Brivane.
+Обновить программу?</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Ошибка</translation>
+    </message>
+    <message>
+        <source>Failed to launch the updater.
+Please run it manually using the following command:
+
+%1/maintenancetool</source>
+        <translation>Не удалось запустить программу обновления.
+Запустите её вручную командой:
+
+%1/maintenancetool</translation>
+    </message>
 </context>
 <context>
     <name>QuickLoadWidget</name>
@@ -1571,6 +1637,21 @@ height=%2</source>
     </message>
 </context>
 <context>
+    <name>SocialDialog</name>
+    <message>
+        <source>%1 is a &lt;b&gt;free software&lt;/b&gt;. Please &lt;b&gt;support it&lt;/b&gt; by submitting it to your favourite social networking sites using the buttons below.</source>
+        <translation>%1 — &lt;b&gt;свободная программа&lt;/b&gt;. &lt;b&gt;Поддержите её&lt;/b&gt;, поделившись ею в любимых социальных сетях с помощью кнопок ниже.</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Выход</translation>
+    </message>
+    <message>
+        <source>Please Support %1</source>
+        <translation>Поддержите %1</translation>
+    </message>
+</context>
+<context>
     <name>SpringForceAction</name>
     <message>
         <source>Create Spring</source>
@@ -1623,6 +1704,53 @@ height=%2</source>
     <message>
         <source>Font Size</source>
         <translation>Размер шрифта</translation>
+    </message>
+</context>
+<context>
+    <name>TipDialog</name>
+    <message>
+        <source>Tip of the Day</source>
+        <translation>Совет дня</translation>
+    </message>
+    <message>
+        <source>Show tip at startup</source>
+        <translation>Показывать совет при запуске</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Далее</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>You could &lt;B&gt;improve rendering performance&lt;/B&gt; by enabling OpenGL in settings.</source>
+        <translation>Можно &lt;B&gt;ускорить отрисовку&lt;/B&gt;, включив OpenGL в настройках.</translation>
+    </message>
+    <message>
+        <source>You can show and hide the Property Editor using Shift+P.</source>
+        <translation>Редактор свойств показывается и скрывается клавишами Shift+P.</translation>
+    </message>
+    <message>
+        <source>You can show and hide the Console using Shift+~.</source>
+        <translation>Консоль показывается и скрывается клавишами Shift+~.</translation>
+    </message>
+    <message>
+        <source>You can switch between &lt;B&gt;perspectives&lt;/B&gt; using &lt;I&gt;Alt + 1 .. 4&lt;/I&gt;.</source>
+        <translation>Переключайте &lt;B&gt;раскладки окна&lt;/B&gt; клавишами &lt;I&gt;Alt + 1 .. 4&lt;/I&gt;.</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;Download&lt;/B&gt; scenes that other people have created by selecting &lt;I&gt;File::Download&lt;/I&gt; from the menu bar.</source>
+        <translation>&lt;B&gt;Скачивайте&lt;/B&gt; сцены других людей через &lt;I&gt;Файл::Скачать&lt;/I&gt; в строке меню.</translation>
+    </message>
+    <message>
+        <source>You can &lt;B&gt;upload&lt;/B&gt; your scene to &lt;A HREF=&apos;%1&apos;&gt;%2&lt;/A&gt; by selecting &lt;I&gt;File::Upload&lt;/I&gt; from the menu bar.</source>
+        <translation>Свою сцену можно &lt;B&gt;отправить&lt;/B&gt; на &lt;A HREF=&apos;%1&apos;&gt;%2&lt;/A&gt; через &lt;I&gt;Файл::Отправить&lt;/I&gt; в строке меню.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>Credits</source>
+        <translation>致谢</translation>
+    </message>
+    <message>
+        <source>ChangeLog</source>
+        <translation>更新日志</translation>
+    </message>
+    <message>
+        <source>About </source>
+        <translation>关于 </translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Could not remove temp directory.</source>
@@ -46,6 +65,14 @@
     <message>
         <source>The script was stopped.</source>
         <translation>脚本已停止。</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Could not open the scene %1.</source>
+        <translation>无法打开场景 %1。</translation>
     </message>
 </context>
 <context>
@@ -497,6 +524,13 @@
     <message>
         <source>Shoot Item</source>
         <translation>发射对象</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWidget</name>
+    <message>
+        <source>Brivane Help</source>
+        <translation>Brivane 帮助</translation>
     </message>
 </context>
 <context>
@@ -1374,6 +1408,38 @@ Please save the scene and try again.</source>
         <source>Text</source>
         <translation>文字</translation>
     </message>
+    <message>
+        <source>A two-dimensional physics sandbox.</source>
+        <translation>二维物理沙盒。</translation>
+    </message>
+    <message>
+        <source>A scene file to open.</source>
+        <translation>要打开的场景文件。</translation>
+    </message>
+    <message>
+        <source>Updates Available</source>
+        <translation>有可用更新</translation>
+    </message>
+    <message>
+        <source>A new version of Brivane is available.
+Update the application?</source>
+        <translation>Brivane 有新版本。
+是否更新应用程序？</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Failed to launch the updater.
+Please run it manually using the following command:
+
+%1/maintenancetool</source>
+        <translation>无法启动更新程序。
+请使用以下命令手动运行：
+
+%1/maintenancetool</translation>
+    </message>
 </context>
 <context>
     <name>QuickLoadWidget</name>
@@ -1571,6 +1637,21 @@ height=%2</source>
     </message>
 </context>
 <context>
+    <name>SocialDialog</name>
+    <message>
+        <source>%1 is a &lt;b&gt;free software&lt;/b&gt;. Please &lt;b&gt;support it&lt;/b&gt; by submitting it to your favourite social networking sites using the buttons below.</source>
+        <translation>%1 是&lt;b&gt;自由软件&lt;/b&gt;。请使用下面的按钮将它分享到您喜爱的社交网站，以&lt;b&gt;支持它&lt;/b&gt;。</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>Please Support %1</source>
+        <translation>请支持 %1</translation>
+    </message>
+</context>
+<context>
     <name>SpringForceAction</name>
     <message>
         <source>Create Spring</source>
@@ -1623,6 +1704,53 @@ height=%2</source>
     <message>
         <source>Font Size</source>
         <translation>字号</translation>
+    </message>
+</context>
+<context>
+    <name>TipDialog</name>
+    <message>
+        <source>Tip of the Day</source>
+        <translation>每日提示</translation>
+    </message>
+    <message>
+        <source>Show tip at startup</source>
+        <translation>启动时显示提示</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>上一条</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>下一条</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>You could &lt;B&gt;improve rendering performance&lt;/B&gt; by enabling OpenGL in settings.</source>
+        <translation>在设置中启用 OpenGL 可以&lt;B&gt;提高绘制性能&lt;/B&gt;。</translation>
+    </message>
+    <message>
+        <source>You can show and hide the Property Editor using Shift+P.</source>
+        <translation>使用 Shift+P 显示或隐藏属性编辑器。</translation>
+    </message>
+    <message>
+        <source>You can show and hide the Console using Shift+~.</source>
+        <translation>使用 Shift+~ 显示或隐藏控制台。</translation>
+    </message>
+    <message>
+        <source>You can switch between &lt;B&gt;perspectives&lt;/B&gt; using &lt;I&gt;Alt + 1 .. 4&lt;/I&gt;.</source>
+        <translation>使用 &lt;I&gt;Alt + 1 .. 4&lt;/I&gt; 切换&lt;B&gt;布局&lt;/B&gt;。</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;Download&lt;/B&gt; scenes that other people have created by selecting &lt;I&gt;File::Download&lt;/I&gt; from the menu bar.</source>
+        <translation>通过菜单栏的&lt;I&gt;文件::下载&lt;/I&gt;&lt;B&gt;下载&lt;/B&gt;其他人创建的场景。</translation>
+    </message>
+    <message>
+        <source>You can &lt;B&gt;upload&lt;/B&gt; your scene to &lt;A HREF=&apos;%1&apos;&gt;%2&lt;/A&gt; by selecting &lt;I&gt;File::Upload&lt;/I&gt; from the menu bar.</source>
+        <translation>通过菜单栏的&lt;I&gt;文件::上传&lt;/I&gt;，可以将场景&lt;B&gt;上传&lt;/B&gt;到 &lt;A HREF=&apos;%1&apos;&gt;%2&lt;/A&gt;。</translation>
     </message>
 </context>
 <context>

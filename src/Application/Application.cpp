@@ -6,6 +6,7 @@
 #include "Files/XMLWriter.h"
 #include "Gui/MainWindow.h"
 #include "Gui/PlotWidget.h"
+#include "Gui/TipDialog.h"
 #include "NemuToolbox/Toolbox.h"
 #include "Physics/BalloonItem.h"
 #include "Physics/DistanceJoint.h"
@@ -32,12 +33,14 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QGLFormat>
+#include <QMessageBox>
 #include <QOpenGLContext>
 #include <QPixmap>
 #include <QProgressDialog>
 #include <QScriptEngine>
 #include <QScriptEngineDebugger>
 #include <QScriptValueIterator>
+#include <QStandardPaths>
 #include <QTime>
 #include <QTimer>
 #include <QTranslator>
@@ -85,6 +88,8 @@ Application::Application(int& argc, char** argv)
     setOrganizationName(QString::fromUtf8(QByteArray::fromBase64(organizationFirst)) + " "
                         + QString::fromUtf8(QByteArray::fromHex(organizationSecond)));
     setWindowIcon(QIcon(QStringLiteral(":/icons/brivane.png")));
+    // Ties the windows to the installed launcher and its icon on Wayland.
+    setDesktopFileName(QStringLiteral("org.brivane.Brivane"));
     setStyleSheet(QStringLiteral(
         "QDockWidget::title { text-align: left; background: #AAC; padding-left: 5px; }"));
     // Beside the executable rather than the working directory, so that the script extensions
@@ -137,9 +142,31 @@ void Application::report(const QString& text, Brivane::ConsoleMessageType messag
         logMessage(text, messageType);
 }
 
+bool Application::isInstalled()
+{
+    return QFile::exists(applicationDirPath() + QStringLiteral("/installed"));
+}
+
 QString Application::temporaryDirectory()
 {
+    if (isInstalled())
+        return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation)
+            + QDir::separator() + applicationName();
     return QDir::tempPath() + QDir::separator() + applicationName();
+}
+
+QString Application::savesDirectory()
+{
+    const QString examples = dataDirectory(QStringLiteral("saves"));
+    if (!isInstalled())
+        return examples;
+    const QString saves = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
+        + QDir::separator() + applicationName() + QDir::separator() + QStringLiteral("saves");
+    if (!QDir(saves).exists() && QDir().mkpath(saves)) {
+        for (const QFileInfo& example : QDir(examples).entryInfoList(QDir::Files))
+            QFile::copy(example.filePath(), saves + QDir::separator() + example.fileName());
+    }
+    return saves;
 }
 
 namespace {
@@ -183,8 +210,9 @@ QString Application::dataDirectory(const QString& name)
         + name;
 }
 
-void Application::initialise()
+void Application::initialise(const QString& sceneFile)
 {
+    startupScene = sceneFile;
     mainWindow = new MainWindow();
     for (const ConsoleMessage& message : qAsConst(earlyMessages))
         mainWindow->console()->debug(message.text, message.type);
@@ -215,6 +243,13 @@ void Application::postInitialise()
         return;
     }
     newFile(Settings::instance()->createGroundOnStartup);
+    if (!startupScene.isEmpty() && !load(startupScene))
+        QMessageBox::warning(mainWindow, tr("Error"),
+                             tr("Could not open the scene %1.").arg(startupScene));
+    if (Settings::instance()->showTipsAtStartup) {
+        TipDialog tip(mainWindow);
+        tip.exec();
+    }
 }
 
 void Application::onAboutToQuit() { }

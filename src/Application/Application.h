@@ -36,17 +36,24 @@ public:
     static void report(const QString& text,
                        Brivane::ConsoleMessageType messageType = Brivane::Info);
 
+    // Whether the program runs from an installation, which marks itself with a file beside the
+    // executable: it then writes only to the user's folders, not beside itself.
+    static bool isInstalled();
     // The temporary directory of the program: the system's temporary path and the
-    // application name.
+    // application name, or the user's cache folder of the program when installed.
     static QString temporaryDirectory();
     // A folder of the data beside the executable, such as "saves" or "textures".
     static QString dataDirectory(const QString& name);
+    // Where scenes are saved: the data's "saves" folder, or when installed a folder of the
+    // user's, which starts as a copy of the example scenes.
+    static QString savesDirectory();
     // Follows the body with the main view, or with a window of its own; other modes do
     // nothing.
     void createCamera(BodyItem* pItem, Brivane::CameraMode cameraMode);
 
-    // Second stage of start-up: the main window, its layout, the script engine.
-    void initialise();
+    // Second stage of start-up: the main window, its layout, the script engine. The scene
+    // file, if any, is loaded in place of the new scene once the event loop runs.
+    void initialise(const QString& sceneFile = QString());
 
     // Creates the script engine, imports the extensions, sets the globals app, world,
     // mainWindow and graphicsView, registers the item types and runs the autoload scripts.
@@ -92,6 +99,7 @@ private:
     // What was reported before the console existed, shown there once it does; as many as
     // the console keeps.
     QList<ConsoleMessage> earlyMessages;
+    QString startupScene;
 
 signals:
     void fileCreated();

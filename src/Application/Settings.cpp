@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QLocale>
+#include <QStandardPaths>
 
 const QUrl WebsiteUrl(QStringLiteral(BRIVANE_WEBSITE_URL));
 const QUrl RepositoryUrl(QStringLiteral(BRIVANE_REPOSITORY_URL));
@@ -52,7 +53,7 @@ Settings* Settings::settings = nullptr;
     X(QByteArray, mainWindowGeometry, MainWindowGeometry, "General/MainWindowGeometry",            \
       QByteArray(), toByteArray)                                                                   \
     X(QString, quickLoadDirectory, QuickLoadDirectory, "General/QuickLoadDirectory",               \
-      Application::dataDirectory("saves"), toString)                                               \
+      Application::savesDirectory(), toString)                                                     \
     X(QSize, quickLoadIconSize, QuickLoadIconSize, "General/QuickLoadIconSize", QSize(80, 60),     \
       toSize)                                                                                      \
     X(int, guiStyle, GuiStyle, "General/GuiStyle", 0, toInt)                                       \
@@ -116,8 +117,11 @@ void Settings::destroy()
 
 QString Settings::settingsFileName()
 {
-    return QCoreApplication::applicationDirPath() + "/" + QCoreApplication::applicationName()
-        + ".ini";
+    const QString name = QCoreApplication::applicationName() + QStringLiteral(".ini");
+    if (Application::isInstalled())
+        return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/"
+            + QCoreApplication::applicationName() + "/" + name;
+    return QCoreApplication::applicationDirPath() + "/" + name;
 }
 
 Settings::Settings()

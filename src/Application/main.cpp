@@ -1,8 +1,11 @@
 #include "Application/Application.h"
 #include "Application/Settings.h"
+#include "Application/VersionCheck.h"
 #include "Gui/MainWindow.h"
 
+#include <QCommandLineParser>
 #include <QElapsedTimer>
+#include <QMessageBox>
 #include <QPainter>
 #include <QSplashScreen>
 #include <QThread>
@@ -32,6 +35,29 @@ int main(int argc, char* argv[])
 {
     Application application(argc, argv);
 
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QObject::tr("A two-dimensional physics sandbox."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addPositionalArgument(QStringLiteral("scene"), QObject::tr("A scene file to open."),
+                                 QStringLiteral("[scene]"));
+    parser.process(application);
+
+    if (newVersionAvailable()
+        && QMessageBox::question(nullptr, QObject::tr("Updates Available"),
+                                 QObject::tr("A new version of Brivane is available.\nUpdate the "
+                                             "application?"),
+                                 QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes)
+            == QMessageBox::Yes) {
+        if (!launchUpdater())
+            QMessageBox::warning(nullptr, QObject::tr("Error"),
+                                 QObject::tr("Failed to launch the updater.\nPlease run it "
+                                             "manually using the following command:\n\n%1/"
+                                             "maintenancetool")
+                                     .arg(QCoreApplication::applicationDirPath()));
+        return 0;
+    }
+
     QSplashScreen splash(splashPixmap());
     splash.show();
     // The splash stays three seconds in every case.
@@ -42,7 +68,7 @@ int main(int argc, char* argv[])
         QThread::msleep(10);
     }
 
-    application.initialise();
+    application.initialise(parser.positionalArguments().value(0));
     splash.finish(application.mainWindow);
     return application.exec();
 }

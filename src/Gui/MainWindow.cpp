@@ -3,12 +3,15 @@
 #include "Application/Application.h"
 #include "Application/Settings.h"
 #include "Files/SceneFile.h"
+#include "Gui/AboutDialog.h"
 #include "Gui/ExportDialog.h"
+#include "Gui/HelpWidget.h"
 #include "Gui/PropertyEditorWidget.h"
 #include "Gui/QuickLoadWidget.h"
 #include "Gui/ScenePropertiesWidget.h"
 #include "Gui/SettingsWidget.h"
 #include "Gui/SnapWidget.h"
+#include "Gui/SocialDialog.h"
 #include "Physics/PhysicsItem.h"
 #include "Physics/PhysicsWorld.h"
 #include "Scripting/ConsoleWidget.h"
@@ -178,9 +181,9 @@ MainWindow::actionRows()
         {Id::Fullscreen, QT_TR_NOOP("Fullscreen"), QT_TR_NOOP("Toggles fullscreen mode"),
          "fullscreen", none, Qt::Key_F11, &MainWindow::makeFullscreenToggle, nullptr},
         {Id::Help, QT_TR_NOOP("Help"), QT_TR_NOOP("Shows the application's help file"), "help",
-         Key::HelpContents, 0, &MainWindow::makeCommand, nullptr},
+         Key::HelpContents, 0, &MainWindow::makeCommand, &MainWindow::onHelp},
         {Id::About, QT_TR_NOOP("About..."), QT_TR_NOOP("Shows the application's About box"), "info",
-         none, 0, &MainWindow::makeCommand, nullptr},
+         none, 0, &MainWindow::makeCommand, &MainWindow::onAbout},
         {Id::AboutQt, QT_TR_NOOP("About Qt..."), QT_TR_NOOP("Shows the Qt library's About box"),
          "qtLogo", none, 0, &MainWindow::makeCommand, &MainWindow::onAboutQt},
         {Id::PlayPause, QT_TR_NOOP("Play/Pause"), QT_TR_NOOP("Starts/Pauses the simulation"),
@@ -611,6 +614,9 @@ void MainWindow::closeEvent(QCloseEvent* event)
 {
     Settings::instance()->setMainWindowGeometry(saveGeometry());
     Settings::instance()->setMainWindowState(saveState(0));
+    // However the request ends, the window closes.
+    SocialDialog social(this);
+    social.exec();
     QMainWindow::closeEvent(event);
 }
 
@@ -681,8 +687,8 @@ void MainWindow::onSave()
 
 void MainWindow::onSaveAs()
 {
-    QString filename = QFileDialog::getSaveFileName(
-        this, tr("Save"), Application::dataDirectory(QStringLiteral("saves")), sceneFilter());
+    QString filename = QFileDialog::getSaveFileName(this, tr("Save"), Application::savesDirectory(),
+                                                    sceneFilter());
     if (filename.isEmpty())
         return;
     const QString suffix = QLatin1Char('.') + SceneFile::extension;
@@ -694,7 +700,7 @@ void MainWindow::onSaveAs()
 void MainWindow::onLoad()
 {
     const QString filename = QFileDialog::getOpenFileName(
-        this, tr("Load"), Application::dataDirectory(QStringLiteral("saves")), sceneFilter());
+        this, tr("Load"), Application::savesDirectory(), sceneFilter());
     if (!filename.isEmpty())
         Application::instance()->load(filename);
 }
@@ -809,6 +815,21 @@ void MainWindow::onFullScreen(bool fullscreen)
     if (isFullScreen() == fullscreen)
         return;
     setWindowState(windowState() ^ Qt::WindowFullScreen);
+}
+
+void MainWindow::onHelp()
+{
+    auto* help = new HelpWidget(this);
+    help->setAttribute(Qt::WA_DeleteOnClose);
+    help->setWindowFlags(Qt::Dialog);
+    help->show();
+}
+
+void MainWindow::onAbout()
+{
+    // The world goes on behind the box.
+    AboutDialog dialog(this);
+    dialog.exec();
 }
 
 void MainWindow::onAboutQt()

@@ -138,6 +138,8 @@ private slots:
     void onShowAllDockWidgets();
     void onHideAllDockWidgets();
     void onFullScreen(bool fullscreen);
+    void onHelp();
+    void onAbout();
     void onAboutQt();
 
 private:

@@ -395,8 +395,8 @@ void PhysicsWorld::saveFrame()
     Application* application = Application::instance();
     if (!application || !application->mainWindow)
         return;
-    const QString path = QDir::tempPath() + QDir::separator() + QCoreApplication::applicationName()
-        + QDir::separator() + QStringLiteral("frame%1.png").arg(frame, 5, 10, QLatin1Char('0'));
+    const QString path = Application::temporaryDirectory() + QDir::separator()
+        + QStringLiteral("frame%1.png").arg(frame, 5, 10, QLatin1Char('0'));
     application->mainWindow->graphicsView()->image().save(path);
 }
 

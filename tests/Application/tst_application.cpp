@@ -1,6 +1,8 @@
 #include "Application/Application.h"
 #include "Application/Settings.h"
 #include "Gui/MainWindow.h"
+#include "Gui/SocialDialog.h"
+#include "Gui/TipDialog.h"
 #include "MessageLog.h"
 #include "Physics/PhysicsWorld.h"
 #include "Physics/RectangleItem.h"
@@ -12,6 +14,7 @@
 #include <QScriptEngine>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 #include <QTranslator>
 #include <QUndoStack>
 
@@ -22,6 +25,11 @@ class TestApplication : public QObject
     Q_OBJECT
 
     Application* application() { return Application::instance(); }
+    static QString exampleScene()
+    {
+        const QDir saves(Application::dataDirectory(QStringLiteral("saves")));
+        return saves.filePath(saves.entryList({QStringLiteral("*.scene")}).value(0));
+    }
 
 private slots:
     void identity()
@@ -84,7 +92,7 @@ private slots:
     void initialiseBuildsWindowAndEngine()
     {
         MessageLog log;
-        application()->initialise();
+        application()->initialise(exampleScene());
         QVERIFY(application()->initialised);
         QVERIFY(application()->mainWindow);
         QVERIFY(application()->mainWindow->windowState() & Qt::WindowMaximized);
@@ -97,11 +105,25 @@ private slots:
             QStringLiteral("qt.core successfully imported into script engine")));
     }
 
-    void postInitialiseMakesFirstScene()
+    // The scene named on the command line follows the first new scene, then the tip.
+    void postInitialiseOpensSceneAndTip()
     {
+        bool tipShown = false;
+        QTimer answer;
+        connect(&answer, &QTimer::timeout, this, [&tipShown] {
+            if (auto* tip = qobject_cast<TipDialog*>(QApplication::activeModalWidget())) {
+                tipShown = true;
+                tip->reject();
+            }
+        });
+        answer.start(20);
         QSignalSpy created(application(), &Application::fileCreated);
-        QVERIFY(created.wait(2000));
-        QVERIFY(application()->fileName.isEmpty());
+        QSignalSpy loaded(application(), &Application::fileLoaded);
+        QVERIFY(loaded.wait(3000));
+        // The first new scene, then the one the load clears.
+        QCOMPARE(created.count(), 2);
+        QCOMPARE(application()->fileName, exampleScene());
+        QTRY_VERIFY(tipShown);
     }
 
     void newFileEmptiesScene()
@@ -129,10 +151,19 @@ private slots:
         QVERIFY(log.lines().filter(QStringLiteral("setGravityX")).isEmpty());
     }
 
-    void closingStoresLayout()
+    void closingStoresLayoutAndAsksForSupport()
     {
         QFile::remove(Settings::settingsFileName());
-        application()->mainWindow->close();
+        bool supportAsked = false;
+        QTimer::singleShot(0, this, [&supportAsked] {
+            if (auto* social = qobject_cast<SocialDialog*>(QApplication::activeModalWidget())) {
+                supportAsked = true;
+                QTest::keyClick(social, Qt::Key_Escape);
+            }
+        });
+        // Escape in the support dialog does not keep the window open.
+        QVERIFY(application()->mainWindow->close());
+        QVERIFY(supportAsked);
         Settings::instance()->sync();
         QSettings file(Settings::settingsFileName(), QSettings::IniFormat);
         QVERIFY(!file.value(QStringLiteral("General/MainWindowGeometry")).toByteArray().isEmpty());

@@ -2,6 +2,7 @@
 #include "Application/Settings.h"
 #include "Gui/ExportDialog.h"
 #include "Gui/MainWindow.h"
+#include "Gui/SocialDialog.h"
 #include "Physics/PhysicsWorld.h"
 #include "Tools/ActionContextToolBar.h"
 #include "Tools/ActionContextWidget.h"
@@ -9,8 +10,10 @@
 #include "View/GraphicsView.h"
 #include "View/StatusBar.h"
 
+#include <QAbstractButton>
 #include <QActionGroup>
 #include <QDesktopWidget>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QDockWidget>
 #include <QFileDialog>
@@ -175,9 +178,8 @@ private slots:
         row(Id::HideAllDockWidgets, "Hide all", "Hides all dock widgets", "", Key(), true);
         row(Id::Fullscreen, "Fullscreen", "Toggles fullscreen mode", "fullscreen", Key(Qt::Key_F11),
             true);
-        row(Id::Help, "Help", "Shows the application's help file", "help", Key::HelpContents,
-            false);
-        row(Id::About, "About...", "Shows the application's About box", "info", Key(), false);
+        row(Id::Help, "Help", "Shows the application's help file", "help", Key::HelpContents, true);
+        row(Id::About, "About...", "Shows the application's About box", "info", Key(), true);
         row(Id::AboutQt, "About Qt...", "Shows the Qt library's About box", "qtLogo", Key(), true);
         row(Id::PlayPause, "Play/Pause", "Starts/Pauses the simulation", "play", Key(Qt::Key_Space),
             true);
@@ -914,7 +916,16 @@ private slots:
     void quitClosesWindowAndStoresLayout()
     {
         Settings::instance()->setMainWindowState(QByteArray());
+        // The support dialog comes, and its Quit button closes it and the window.
+        bool supportAsked = false;
+        QTimer::singleShot(0, this, [&supportAsked] {
+            if (auto* social = qobject_cast<SocialDialog*>(QApplication::activeModalWidget())) {
+                supportAsked = true;
+                social->findChild<QDialogButtonBox*>()->buttons().first()->click();
+            }
+        });
         action(Id::Quit)->trigger();
+        QVERIFY(supportAsked);
         QVERIFY(!window()->isVisible());
         QCOMPARE(Settings::instance()->mainWindowState, window()->saveState(0));
     }
@@ -928,6 +939,7 @@ int main(int argc, char* argv[])
         + QStringLiteral("/Brivane.ini");
     QFile::remove(ini);
     Application application(argc, argv);
+    Settings::instance()->showTipsAtStartup = false;
     application.initialise();
     TestMainWindow test;
     const int result = QTest::qExec(&test, argc, argv);

@@ -293,6 +293,7 @@ int main(int argc, char* argv[])
         + QStringLiteral("/Brivane.ini");
     QFile::remove(ini);
     Application application(argc, argv);
+    Settings::instance()->showTipsAtStartup = false;
     application.initialise();
     TestMainWindowOnScreen test;
     const int result = QTest::qExec(&test, argc, argv);

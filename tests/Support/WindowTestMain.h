@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Application/Application.h"
+#include "Application/Settings.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -18,6 +19,8 @@
             + QStringLiteral("/Brivane.ini");                                                      \
         QFile::remove(ini);                                                                        \
         Application application(argc, argv);                                                       \
+        /* The tip of the day would wait modally in front of every test. */                        \
+        Settings::instance()->showTipsAtStartup = false;                                           \
         beforeInitialise(application);                                                             \
         application.initialise();                                                                  \
         TestClass test;                                                                            \

@@ -47,6 +47,7 @@ class TestToolFramework : public QObject
 private slots:
     void initTestCase()
     {
+        Settings::instance()->showTipsAtStartup = false;
         Application::instance()->initialise();
         view = Application::instance()->mainWindow->graphicsView();
         view->resize(800, 600);
