@@ -2,6 +2,7 @@
 // 1,000 bodies standing in the box of a new scene.
 #include "Application/Settings.h"
 #include "BenchmarkApplication.h"
+#include "BoxOfBodies.h"
 #include "Physics/PhysicsWorld.h"
 #include "View/GraphicsView.h"
 
@@ -11,25 +12,7 @@
 
 namespace {
 const int bodyCount = 1000;
-const int columns = 40;
 const int rounds = 20;
-
-// Rectangles and circles in turn, on a grid inside the walls and below the box's top.
-void fillBox(PhysicsWorld* world)
-{
-    const double left = -9.5;
-    const double width = 19.0;
-    const double spacing = width / columns;
-    const double size = spacing * 0.8;
-    for (int i = 0; i < bodyCount; ++i) {
-        const double x = left + spacing * (i % columns + 0.5);
-        const double y = 0.5 + spacing * (i / columns);
-        if (i % 2)
-            world->createCircle(x, y, 0.0, size / 2);
-        else
-            world->createRectangle(x, y, 0.0, size, size);
-    }
-}
 } // namespace
 
 int main(int argc, char* argv[])
@@ -41,7 +24,7 @@ int main(int argc, char* argv[])
 
     PhysicsWorld* world = PhysicsWorld::instance();
     world->createGround();
-    fillBox(world);
+    fillBox(world, bodyCount);
     {
         GraphicsView view;
         view.resize(1280, 800);

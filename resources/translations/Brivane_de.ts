@@ -499,6 +499,10 @@
         <source>%1 m</source>
         <translation>%1 m</translation>
     </message>
+    <message>
+        <source>OpenGL draws in software here (%1); the view draws without it, which is faster.</source>
+        <translation>OpenGL zeichnet hier in Software (%1); die Ansicht zeichnet ohne OpenGL, was schneller ist.</translation>
+    </message>
 </context>
 <context>
     <name>GraphicsViewPropertiesWidget</name>

@@ -499,6 +499,10 @@
         <source>%1 m</source>
         <translation>%1 m</translation>
     </message>
+    <message>
+        <source>OpenGL draws in software here (%1); the view draws without it, which is faster.</source>
+        <translation>Το OpenGL σχεδιάζει εδώ με λογισμικό (%1)· η προβολή σχεδιάζει χωρίς αυτό, κάτι που είναι ταχύτερο.</translation>
+    </message>
 </context>
 <context>
     <name>GraphicsViewPropertiesWidget</name>

@@ -499,6 +499,10 @@
         <source>%1 m</source>
         <translation>%1 m</translation>
     </message>
+    <message>
+        <source>OpenGL draws in software here (%1); the view draws without it, which is faster.</source>
+        <translation>OpenGL dibuja aquí por software (%1); la vista dibuja sin él, lo que es más rápido.</translation>
+    </message>
 </context>
 <context>
     <name>GraphicsViewPropertiesWidget</name>

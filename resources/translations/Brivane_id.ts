@@ -499,6 +499,10 @@
         <source>%1 m</source>
         <translation>%1 m</translation>
     </message>
+    <message>
+        <source>OpenGL draws in software here (%1); the view draws without it, which is faster.</source>
+        <translation>OpenGL menggambar dengan perangkat lunak di sini (%1); tampilan menggambar tanpanya, yang lebih cepat.</translation>
+    </message>
 </context>
 <context>
     <name>GraphicsViewPropertiesWidget</name>

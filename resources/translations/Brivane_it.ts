@@ -499,6 +499,10 @@
         <source>%1 m</source>
         <translation>%1 m</translation>
     </message>
+    <message>
+        <source>OpenGL draws in software here (%1); the view draws without it, which is faster.</source>
+        <translation>Qui OpenGL disegna via software (%1); la vista disegna senza di esso, il che è più veloce.</translation>
+    </message>
 </context>
 <context>
     <name>GraphicsViewPropertiesWidget</name>

@@ -499,6 +499,10 @@
         <source>%1 m</source>
         <translation>%1 m</translation>
     </message>
+    <message>
+        <source>OpenGL draws in software here (%1); the view draws without it, which is faster.</source>
+        <translation>ここでは OpenGL がソフトウェアで描画しています (%1)。ビューは OpenGL を使わずに描画します。そのほうが高速です。</translation>
+    </message>
 </context>
 <context>
     <name>GraphicsViewPropertiesWidget</name>

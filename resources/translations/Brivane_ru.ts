@@ -499,6 +499,10 @@
         <source>%1 m</source>
         <translation>%1 м</translation>
     </message>
+    <message>
+        <source>OpenGL draws in software here (%1); the view draws without it, which is faster.</source>
+        <translation>OpenGL здесь рисует программно (%1); вид рисует без него, так быстрее.</translation>
+    </message>
 </context>
 <context>
     <name>GraphicsViewPropertiesWidget</name>

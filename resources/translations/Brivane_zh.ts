@@ -499,6 +499,10 @@
         <source>%1 m</source>
         <translation>%1 m</translation>
     </message>
+    <message>
+        <source>OpenGL draws in software here (%1); the view draws without it, which is faster.</source>
+        <translation>此处 OpenGL 以软件方式绘制 (%1)；视图不使用它绘制，这样更快。</translation>
+    </message>
 </context>
 <context>
     <name>GraphicsViewPropertiesWidget</name>

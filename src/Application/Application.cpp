@@ -34,9 +34,12 @@
 #include <QFileInfo>
 #include <QGLFormat>
 #include <QMessageBox>
+#include <QOffscreenSurface>
 #include <QOpenGLContext>
+#include <QOpenGLFunctions>
 #include <QPixmap>
 #include <QProgressDialog>
+#include <QRegularExpression>
 #include <QScriptEngine>
 #include <QScriptEngineDebugger>
 #include <QScriptValueIterator>
@@ -588,6 +591,40 @@ bool Application::canCreateOpenGLContext()
         return false;
     QOpenGLContext probe;
     return probe.create();
+}
+
+QString Application::openGLRenderer()
+{
+    static const QString renderer = [] {
+        if (!canCreateOpenGLContext())
+            return QString();
+        QOpenGLContext* previous = QOpenGLContext::currentContext();
+        QSurface* previousSurface = previous ? previous->surface() : nullptr;
+        QOpenGLContext context;
+        QOffscreenSurface surface;
+        if (!context.create())
+            return QString();
+        surface.setFormat(context.format());
+        surface.create();
+        QString text;
+        if (context.makeCurrent(&surface)) {
+            const GLubyte* name = context.functions()->glGetString(GL_RENDERER);
+            text = QString::fromLatin1(reinterpret_cast<const char*>(name));
+            context.doneCurrent();
+        }
+        if (previous)
+            previous->makeCurrent(previousSurface);
+        return text;
+    }();
+    return renderer;
+}
+
+bool Application::isSoftwareRenderer(const QString& renderer)
+{
+    static const QRegularExpression software(
+        QStringLiteral("llvmpipe|softpipe|swrast|software|swiftshader|basic render"),
+        QRegularExpression::CaseInsensitiveOption);
+    return software.match(renderer).hasMatch();
 }
 
 QStringList Application::supportedOpenGLVersions()

@@ -74,6 +74,11 @@ public:
 
     // Whether an OpenGL context can be made here at all.
     static bool canCreateOpenGLContext();
+    // The GL_RENDERER text of this system's OpenGL, read once; empty without a context.
+    static QString openGLRenderer();
+    // Whether a renderer draws on the processor (llvmpipe, softpipe, swrast and the like),
+    // where Qt's raster engine draws faster than OpenGL.
+    static bool isSoftwareRenderer(const QString& renderer);
     // OpenGL versions the system supports, in ascending order ("1.1" ... "3.0").
     static QStringList supportedOpenGLVersions();
 

@@ -242,7 +242,17 @@ void BodyItem::setFixedRotation(bool fixed)
 void BodyItem::setShowLocalCenter(bool show)
 {
     localCenterShown = show;
-    centreMarker->setVisible(show);
+    // Made at the first showing: a hidden child per body slows every paint of a large scene.
+    if (show && !centreMarker) {
+        centreMarker = new QGraphicsEllipseItem(-0.1, -0.1, 0.2, 0.2, pGraphicsItem);
+        centreMarker->setPen(
+            QPen(QBrush(Qt::black), 0.1, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    }
+    if (centreMarker) {
+        const b2Vec2 centre = pBody->GetLocalCenter();
+        centreMarker->setPos(centre.x, centre.y);
+        centreMarker->setVisible(show);
+    }
 }
 
 void BodyItem::setPositionX(double x)
@@ -585,13 +595,6 @@ void BodyItem::initialiseGraphics(double x, double y, double theta)
     pGraphicsItem->setFlag(QGraphicsItem::ItemIsSelectable);
     zValueCounter += 1.0;
     pGraphicsItem->setZValue(zValueCounter);
-
-    centreMarker = new QGraphicsEllipseItem(-0.1, -0.1, 0.2, 0.2, pGraphicsItem);
-    centreMarker->setPen(QPen(QBrush(Qt::black), 0.1, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
-    const b2Vec2 centre = pBody->GetLocalCenter();
-    centreMarker->setPos(centre.x, centre.y);
-    centreMarker->setVisible(false);
-    localCenterShown = false;
 }
 
 bool BodyItem::isVectorAtPoint(const QLineF& line)

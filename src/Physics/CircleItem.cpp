@@ -2,8 +2,8 @@
 
 #include "Physics/Box2DLimits.h"
 
-#include <QGraphicsEllipseItem>
-#include <QGraphicsLineItem>
+#include "View/CircleGraphicsItem.h"
+
 #include <cmath>
 
 CircleItem::CircleItem(double x, double y, double theta, double r)
@@ -14,9 +14,8 @@ CircleItem::CircleItem(double x, double y, double theta, double r)
     shape->m_radius = float(r);
     shape->m_p.SetZero();
     setShapes({shape});
-    ellipseItem = new QGraphicsEllipseItem(-r, -r, 2 * r, 2 * r);
-    pGraphicsItem = ellipseItem;
-    spoke = new QGraphicsLineItem(0, 0, 0, r, ellipseItem);
+    circleGraphicsItem = new CircleGraphicsItem(r);
+    pGraphicsItem = circleGraphicsItem;
     initialiseGraphics(x, y, theta);
     setShowLine(!isStatic());
 }
@@ -26,21 +25,20 @@ void CircleItem::setRadius(double r)
     if (!Box2DLimits::isSize(r) || r == circleRadius)
         return;
     circleRadius = r;
-    ellipseItem->setRect(-r, -r, 2 * r, 2 * r);
-    QLineF line = spoke->line();
-    if (line.length() > 0.0) {
-        line.setLength(r);
-        spoke->setLine(line);
-    }
+    circleGraphicsItem->setRadius(r);
     // The definition's shape was made here, so it may be changed in place.
     const_cast<b2Shape*>(fixtureDefinitions.first()->shape)->m_radius = float(r);
     recreateFixtures();
 }
 
+bool CircleItem::showLine() const
+{
+    return circleGraphicsItem->isSpokeVisible();
+}
+
 void CircleItem::setShowLine(bool show)
 {
-    lineShown = show;
-    spoke->setVisible(show);
+    circleGraphicsItem->setSpokeVisible(show);
 }
 
 void CircleItem::scale(double factor)

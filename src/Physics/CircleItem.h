@@ -2,8 +2,7 @@
 
 #include "Physics/BodyItem.h"
 
-class QGraphicsEllipseItem;
-class QGraphicsLineItem;
+class CircleGraphicsItem;
 
 // A disc with a spoke that makes its rotation visible.
 class CircleItem : public BodyItem
@@ -24,16 +23,14 @@ public:
     void scale(double factor) override;
 
     double radius() const { return circleRadius; }
-    bool showLine() const { return lineShown; }
+    bool showLine() const;
 
 public slots:
     void setRadius(double r);
     void setShowLine(bool show);
 
 private:
-    QGraphicsEllipseItem* ellipseItem;
-    QGraphicsLineItem* spoke;
+    CircleGraphicsItem* circleGraphicsItem;
     double circleRadius;
-    bool lineShown;
 };
 Q_DECLARE_METATYPE(CircleItem*)

@@ -3,9 +3,9 @@
 #include "General/XPolygonF.h"
 #include "Physics/Box2DLimits.h"
 #include "Physics/PolygonItem.h"
+#include "View/CircleGraphicsItem.h"
 #include "View/GearGraphicsItem.h"
 
-#include <QGraphicsEllipseItem>
 #include <cmath>
 
 namespace {
@@ -69,7 +69,8 @@ GearItem::GearItem(double x, double y, double theta, double pitchCircleRadius, d
     gearGraphicsItem = new GearGraphicsItem(radius, size, divisor);
     pGraphicsItem = gearGraphicsItem;
     // Sized once: a later change of the radius does not resize the circle.
-    pitchCircle = new QGraphicsEllipseItem(-radius, -radius, 2 * radius, 2 * radius, pGraphicsItem);
+    pitchCircle = new CircleGraphicsItem(radius, pGraphicsItem);
+    pitchCircle->setSpokeVisible(false);
     pitchCircle->setOpacity(0.5);
     pitchCircle->setVisible(false);
     initialiseGraphics(x, y, theta);

@@ -5,8 +5,8 @@
 #include <QList>
 #include <QPolygonF>
 
+class CircleGraphicsItem;
 class GearGraphicsItem;
-class QGraphicsEllipseItem;
 
 // The teeth of a gear in body coordinates, one four-point polygon each in tooth order. The
 // tooth count divisor is the arc length of the pitch circle that one tooth takes up, so the
@@ -58,7 +58,7 @@ private:
     void rebuild();
 
     GearGraphicsItem* gearGraphicsItem;
-    QGraphicsEllipseItem* pitchCircle;
+    CircleGraphicsItem* pitchCircle;
     bool pitchCircleShown = false;
     double radius;
     double size;

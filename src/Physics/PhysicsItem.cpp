@@ -285,6 +285,21 @@ QBrush PhysicsItem::brush() const
     return QBrush();
 }
 
+XPropertyList PhysicsItem::snapshot()
+{
+    if (!lastSnapshot.describes(this))
+        lastSnapshot = XPropertyList::read(this);
+    return lastSnapshot;
+}
+
+void PhysicsItem::restore(const XPropertyList& list)
+{
+    if (list.describes(this))
+        lastSnapshot = list;
+    else
+        XPropertyList::write(this, list);
+}
+
 XPropertyList PhysicsItem::properties()
 {
     return XPropertyList::read(this);

@@ -69,6 +69,11 @@ public:
     // Brings the graphics item up to date with the physics object, does the per-step work of
     // the item and runs its OnUpdate script. Called at each step and after state changes.
     virtual void update();
+    // The item's properties as an undo snapshot keeps them: those of the previous snapshot,
+    // shared with it, where no value has changed since.
+    XPropertyList snapshot();
+    // Writes a snapshot's values back, unless the item holds them all already.
+    void restore(const XPropertyList& list);
     // Points in item coordinates at which tools snap.
     virtual QPolygonF snapPoints() const;
     virtual QString debugInfo() const;
@@ -144,5 +149,6 @@ private:
     QString onKeyReleaseScript;
     // The event scripts running now, by their text field.
     QList<const QString*> runningScripts;
+    XPropertyList lastSnapshot;
 };
 Q_DECLARE_METATYPE(PhysicsItem*)

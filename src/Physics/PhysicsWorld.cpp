@@ -290,7 +290,7 @@ void PhysicsWorld::getState(PhysicsWorldState& state)
     state.itemProperties.clear();
     for (PhysicsItem* item : qAsConst(itemList)) {
         if (item->isActive())
-            state.itemProperties.append(XPropertyList::read(item));
+            state.itemProperties.append(item->snapshot());
     }
 }
 
@@ -302,7 +302,7 @@ void PhysicsWorld::setState(PhysicsWorldState state)
     for (const XPropertyList& list : qAsConst(state.itemProperties)) {
         auto* item = qobject_cast<PhysicsItem*>(list.object.data());
         if (item && !isRemoved(item))
-            XPropertyList::write(item, list);
+            item->restore(list);
     }
     const PhysicsItemList snapshot = itemList;
     for (PhysicsItem* item : snapshot) {

@@ -2,11 +2,11 @@
 
 #include "General/XPropertyList.h"
 
-#include <QList>
+#include <QVector>
 
 // Snapshot of a scene: the world's properties and those of each item active at the time.
 struct PhysicsWorldState
 {
     XPropertyList worldProperties;
-    QList<XPropertyList> itemProperties;
+    QVector<XPropertyList> itemProperties;
 };

@@ -28,29 +28,6 @@ RectangleItem::RectangleItem(double x, double y, double theta, double w, double 
     rectItem = new QGraphicsRectItem(-w / 2, -h / 2, w, h);
     pGraphicsItem = rectItem;
     initialiseGraphics(x, y, theta);
-
-    textItem = new QGraphicsTextItem(rectItem);
-    textItem->setDefaultTextColor(Qt::black);
-    textItem->setTextWidth(w * textPixelsPerMetre);
-    textItem->setPos(-w / 2, h / 2);
-    textItem->setTransform(
-        QTransform::fromScale(1.0 / textPixelsPerMetre, -1.0 / textPixelsPerMetre), true);
-    textItem->setVisible(false);
-}
-
-QString RectangleItem::text() const
-{
-    return textValue;
-}
-
-QColor RectangleItem::textColor() const
-{
-    return textItem->defaultTextColor();
-}
-
-int RectangleItem::textSize() const
-{
-    return textItem->font().pointSize();
 }
 
 void RectangleItem::setText(QString text)
@@ -59,23 +36,51 @@ void RectangleItem::setText(QString text)
     if (text == textValue)
         return;
     textValue = text;
-    textItem->setPlainText(text.left(maximumShownText));
-    textItem->setVisible(!text.isEmpty());
+    if (!textItem && !text.isEmpty())
+        createTextItem();
+    if (textItem) {
+        textItem->setPlainText(text.left(maximumShownText));
+        textItem->setVisible(!text.isEmpty());
+    }
 }
 
 void RectangleItem::setTextColor(QColor color)
 {
-    if (color != textItem->defaultTextColor())
+    if (color == textColorValue)
+        return;
+    textColorValue = color;
+    if (textItem)
         textItem->setDefaultTextColor(color);
 }
 
 void RectangleItem::setTextSize(int size)
 {
-    QFont font = textItem->font();
-    if (font.pointSize() == size || size < 1 || size > maximumTextSize)
+    if (size == textSizeValue || size < 1 || size > maximumTextSize)
         return;
-    font.setPointSize(size);
+    textSizeValue = size;
+    if (textItem) {
+        QFont font = textItem->font();
+        font.setPointSize(size);
+        textItem->setFont(font);
+    }
+}
+
+void RectangleItem::createTextItem()
+{
+    textItem = new QGraphicsTextItem(rectItem);
+    textItem->setDefaultTextColor(textColorValue);
+    QFont font = textItem->font();
+    font.setPointSize(textSizeValue);
     textItem->setFont(font);
+    textItem->setTransform(
+        QTransform::fromScale(1.0 / textPixelsPerMetre, -1.0 / textPixelsPerMetre), true);
+    placeTextItem();
+}
+
+void RectangleItem::placeTextItem()
+{
+    textItem->setTextWidth(rectangleWidth * textPixelsPerMetre);
+    textItem->setPos(-rectangleWidth / 2, rectangleHeight / 2);
 }
 
 void RectangleItem::setWidth(double w)
@@ -84,7 +89,6 @@ void RectangleItem::setWidth(double w)
         return;
     rectangleWidth = w;
     resize();
-    textItem->setTextWidth(w * textPixelsPerMetre);
 }
 
 void RectangleItem::setHeight(double h)
@@ -104,7 +108,8 @@ void RectangleItem::resize()
     static_cast<b2PolygonShape*>(const_cast<b2Shape*>(fixtureDefinitions.first()->shape))
         ->SetAsBox(float(w * 0.5), float(h * 0.5));
     recreateFixtures();
-    textItem->setPos(-w / 2, h / 2);
+    if (textItem)
+        placeTextItem();
 }
 
 void RectangleItem::scale(double factor)

@@ -3,6 +3,7 @@
 #include "Physics/BodyItem.h"
 
 #include <QColor>
+#include <QFont>
 
 class QGraphicsRectItem;
 class QGraphicsTextItem;
@@ -33,9 +34,9 @@ public:
 
     double width() const { return rectangleWidth; }
     double height() const { return rectangleHeight; }
-    QString text() const;
-    QColor textColor() const;
-    int textSize() const;
+    QString text() const { return textValue; }
+    QColor textColor() const { return textColorValue; }
+    int textSize() const { return textSizeValue; }
 
 public slots:
     void setWidth(double w);
@@ -47,12 +48,20 @@ public slots:
 private:
     // Rebuilds the one fixture from its definition with the present sizes.
     void resize();
+    // Makes the text item at the first text: a text document per rectangle would weigh on
+    // scenes of thousands of bodies, which mostly have none.
+    void createTextItem();
+    // Lays the text item out for the present width and height.
+    void placeTextItem();
 
     QGraphicsRectItem* rectItem;
-    QGraphicsTextItem* textItem;
+    QGraphicsTextItem* textItem = nullptr;
     double rectangleWidth;
     double rectangleHeight;
     // The whole text, of which the text item shows the beginning.
     QString textValue;
+    QColor textColorValue = Qt::black;
+    // The point size that a text item takes by default.
+    int textSizeValue = QFont().pointSize();
 };
 Q_DECLARE_METATYPE(RectangleItem*)

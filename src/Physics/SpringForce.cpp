@@ -3,6 +3,8 @@
 #include "NemuGeometry/Geometry.h"
 #include "Physics/BodyItem.h"
 #include "Physics/Box2DLimits.h"
+#include "Physics/PhysicsWorld.h"
+#include "View/GraphicsScene.h"
 #include "View/SpringGraphicsItem.h"
 
 #include <QLineF>
@@ -80,9 +82,25 @@ void SpringForce::update()
         // leaves static and kinematic bodies alone.
         b->ApplyForce(f, pA, true);
         a->ApplyForce(-f, pB, true);
-        springItem->setLine(QLineF(toPoint(pA), toPoint(pB)));
+        redraw(toPoint(pA), toPoint(pB));
     }
     runOnUpdate();
+}
+
+void SpringForce::redraw(const QPointF& p1, const QPointF& p2)
+{
+    // Laying the coil out is most of a spring's cost at each step: not while it moves by less
+    // than a pixel.
+    if (springItem->scene()) {
+        const double pixel = PhysicsWorld::instance()->graphicsScene()->pixelSize();
+        const QLineF drawn = springItem->line();
+        const QPointF d1 = drawn.p1() - p1;
+        const QPointF d2 = drawn.p2() - p2;
+        if (QPointF::dotProduct(d1, d1) <= pixel * pixel
+            && QPointF::dotProduct(d2, d2) <= pixel * pixel)
+            return;
+    }
+    springItem->setLine(QLineF(p1, p2));
 }
 
 QPolygonF SpringForce::snapPoints() const

@@ -51,6 +51,8 @@ public slots:
     void setColor(QColor color);
 
 private:
+    // Moves the drawn coil's ends to the anchors, when either has moved by more than a pixel.
+    void redraw(const QPointF& p1, const QPointF& p2);
     // The anchor as "x,y" with six significant digits, empty if the body is gone.
     static QString anchorText(const BodyItem* body, const b2Vec2& localAnchor);
 

@@ -3,9 +3,11 @@
 #include "Physics/BodyItem.h"
 #include "Physics/PhysicsItemList.h"
 #include "Physics/PhysicsWorld.h"
+#include "View/GraphicsView.h"
 
 #include <QGraphicsItem>
 #include <QLineF>
+#include <cmath>
 
 namespace {
 // Farther than any snap distance a user can set.
@@ -18,6 +20,14 @@ GraphicsScene::GraphicsScene(PhysicsWorld* world)
 {
     setItemIndexMethod(QGraphicsScene::NoIndex);
     connect(this, &QGraphicsScene::selectionChanged, this, &GraphicsScene::onSelectionChanged);
+}
+
+double GraphicsScene::pixelSize() const
+{
+    double pixelsPerMetre = 0.0;
+    for (const QGraphicsView* view : views())
+        pixelsPerMetre = qMax(pixelsPerMetre, std::abs(view->transform().m11()));
+    return 1.0 / (pixelsPerMetre > 0.0 ? pixelsPerMetre : GraphicsView::initialScale);
 }
 
 PhysicsItem* GraphicsScene::physicsItemAt(const QPointF& point)

@@ -29,6 +29,9 @@ public:
     // (metres). On success it is written to `snapped`; otherwise `snapped` is left alone. Of
     // equally near points the one of the higher item wins.
     bool snapPoint(const QPointF& point, double distance, QPointF& snapped);
+    // Metres per pixel in the view that shows the scene largest; without a view, at the scale
+    // that a new view starts with.
+    double pixelSize() const;
 
 signals:
     void selectionChanged(PhysicsItem* pSelectedPhysicsItem);

@@ -85,7 +85,7 @@ GraphicsView::GraphicsView(QWidget* parent)
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     GraphicsScene* graphicsScene = PhysicsWorld::instance()->graphicsScene();
     setScene(graphicsScene);
-    setScale(48.0);
+    setScale(initialScale);
     setBackground(defaultBackground());
 
     grid = new GridGraphicsItem();
@@ -113,14 +113,26 @@ void GraphicsView::chooseViewport()
         setViewport(glViewport);
         return;
     }
-    Application::report(tr("OpenGL is not available here; the view draws without it."),
-                        Brivane::Warning);
+    if (!Application::canCreateOpenGLContext())
+        Application::report(tr("OpenGL is not available here; the view draws without it."),
+                            Brivane::Warning);
 }
 
 QWidget* GraphicsView::openGLViewport()
 {
     if (!Application::canCreateOpenGLContext())
         return nullptr;
+    const QString renderer = Application::openGLRenderer();
+    if (Application::isSoftwareRenderer(renderer)) {
+        static bool reported = false;
+        if (!reported)
+            Application::report(tr("OpenGL draws in software here (%1); the view draws without "
+                                   "it, which is faster.")
+                                    .arg(renderer),
+                                Brivane::Info);
+        reported = true;
+        return nullptr;
+    }
     auto* glWidget = new QGLWidget(QGLFormat(QGL::SampleBuffers));
     if (glWidget->isValid())
         return glWidget;

@@ -32,9 +32,13 @@ class GraphicsView : public QGraphicsView
 public:
     explicit GraphicsView(QWidget* parent = nullptr);
 
+    // Pixels per metre of a new view.
+    static constexpr double initialScale = 48.0;
+
     // The name of the body that the view follows, empty if none.
     QString bodyWithCamera() const;
-    // A multisampling OpenGL viewport, or null where no working context can be made.
+    // A multisampling OpenGL viewport, or null where no working context can be made or the
+    // renderer draws in software.
     static QWidget* openGLViewport();
     double scale() const;
     QRectF visibleSceneRect() const;

@@ -44,23 +44,25 @@ void SpringGraphicsItem::setLine(const QLineF& line)
     const double wantedTurns = springRestLength / turnLength;
     const int turns
         = std::isfinite(wantedTurns) ? qRound(qBound(0.0, wantedTurns, maximumTurns)) : 0;
-    const double a = qDegreesToRadians(line.angle());
-    const QPointF offset(endOffset * std::cos(a), -endOffset * std::sin(a));
-    const QPointF start = line.p1() + offset;
-    const QPointF span = line.p2() - offset - start;
-    springPoints.clear();
+    // Unit vectors along the line and across it; a line of no length points along x.
+    const double length = line.length();
+    const QPointF along = length > 0.0 ? (line.p2() - line.p1()) / length : QPointF(1.0, 0.0);
+    const QPointF start = line.p1() + endOffset * along;
+    const QPointF span = line.p2() - endOffset * along - start;
+    const double spanLength = std::hypot(span.x(), span.y());
+    // A tooth stands across the line, to alternate sides; on a span of no length it has none.
+    const QPointF across
+        = spanLength > 0.0 ? QPointF(span.y(), -span.x()) * (toothHeight / spanLength) : QPointF();
+    springPoints.resize(qMax(0, turns - 2) * 3 + 2);
+    springPoints[0] = line.p1();
     for (int i = 1; i <= turns - 2; ++i) {
         const QPointF middle = start + (i + 0.5) / turns * span;
-        const QPointF end = start + double(i + 1) / turns * span;
-        // The tooth stands across the line, to alternate sides.
-        QLineF tooth(middle, end);
-        tooth.setAngle(tooth.angle() + (i % 2 == 0 ? 90.0 : -90.0));
-        if (!tooth.isNull())
-            tooth.setLength(toothHeight);
-        springPoints << start + double(i) / turns * span << tooth.p2() << end;
+        QPointF* tooth = springPoints.data() + 3 * i - 2;
+        tooth[0] = start + double(i) / turns * span;
+        tooth[1] = i % 2 == 0 ? middle + across : middle - across;
+        tooth[2] = start + double(i + 1) / turns * span;
     }
-    springPoints.prepend(line.p1());
-    springPoints.append(line.p2());
+    springPoints.last() = line.p2();
     update();
 }
 

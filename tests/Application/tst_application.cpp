@@ -81,6 +81,27 @@ private slots:
         QCOMPARE(application()->language(), QLocale::English);
     }
 
+    // Renderers that draw on the processor send the view to the raster engine.
+    void softwareRenderers_data()
+    {
+        QTest::addColumn<QString>("renderer");
+        QTest::addColumn<bool>("software");
+        QTest::newRow("llvmpipe") << "llvmpipe (LLVM 15.0.6, 256 bits)" << true;
+        QTest::newRow("softpipe") << "softpipe" << true;
+        QTest::newRow("swrast") << "Mesa X11 swrast" << true;
+        QTest::newRow("SwiftShader") << "Google SwiftShader" << true;
+        QTest::newRow("Windows") << "Microsoft Basic Render Driver" << true;
+        QTest::newRow("Intel") << "Mesa Intel(R) UHD Graphics 620 (KBL GT2)" << false;
+        QTest::newRow("NVIDIA") << "NVIDIA GeForce GTX 1060/PCIe/SSE2" << false;
+        QTest::newRow("unknown") << "" << false;
+    }
+    void softwareRenderers()
+    {
+        QFETCH(QString, renderer);
+        QFETCH(bool, software);
+        QCOMPARE(Application::isSoftwareRenderer(renderer), software);
+    }
+
     void openGLVersionList()
     {
         QVERIFY(!application()->isOpenGLVersionSupported(QStringLiteral("1.0")));

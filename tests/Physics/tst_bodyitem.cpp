@@ -234,18 +234,24 @@ private slots:
         QVERIFY(qAbs(box.upperBound.y - box.lowerBound.y - 2.0f) < 0.05f);
     }
 
+    // A rectangle makes its text item at its first text, with the size and colour set
+    // before it.
     void rectangleText()
     {
         RectangleItem* body = world->createRectangle(0, 0, 0, 2, 1);
-        auto* textItem
-            = qgraphicsitem_cast<QGraphicsTextItem*>(body->graphicsItem()->childItems().last());
-        QVERIFY(textItem);
-        QVERIFY(!textItem->isVisible());
-        QCOMPARE(textItem->textWidth(), 100.0);
-        body->setText(QStringLiteral("Hello"));
+        QVERIFY(body->graphicsItem()->childItems().isEmpty());
         body->setTextSize(20);
         body->setTextColor(Qt::red);
-        QVERIFY(textItem->isVisible());
+        body->setText(QStringLiteral("Hello"));
+        auto* textItem
+            = qgraphicsitem_cast<QGraphicsTextItem*>(body->graphicsItem()->childItems().last());
+        QVERIFY(textItem && textItem->isVisible());
+        QCOMPARE(textItem->textWidth(), 100.0);
+        QCOMPARE(textItem->font().pointSize(), 20);
+        QCOMPARE(textItem->defaultTextColor(), QColor(Qt::red));
+        body->setWidth(3.0);
+        QCOMPARE(textItem->textWidth(), 150.0);
+        QCOMPARE(textItem->pos(), QPointF(-1.5, 0.5));
         // A text of any length is kept; a rectangle lays out only its beginning.
         const QString longText(800000, QLatin1Char('x'));
         body->setText(longText);

@@ -1,11 +1,15 @@
 #include "Application/Settings.h"
+#include "Physics/BalloonItem.h"
 #include "Physics/ContactListener.h"
+#include "Physics/GearItem.h"
 #include "Physics/PhysicsWorld.h"
+#include "Physics/PolygonItem.h"
 #include "Physics/RectangleItem.h"
 #include "TestItem.h"
 #include "View/GraphicsScene.h"
 
 #include <QFile>
+#include <QMetaProperty>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
@@ -225,6 +229,66 @@ private slots:
         QVERIFY(state.itemProperties.first().object.isNull());
         world->setState(state);
         QVERIFY(world->items().isEmpty());
+    }
+
+    // Undo keeps one snapshot per entry: an item that has not changed since the previous
+    // snapshot shares its values with it, and writing a snapshot back leaves such an item
+    // alone; one that has changed gets values of its own and has them written back.
+    void snapshotsShareTheValuesOfUnchangedItems_data()
+    {
+        QTest::addColumn<QString>("change");
+        QTest::addColumn<bool>("shared");
+        QTest::newRow("nothing") << QString() << true;
+        QTest::newRow("a setter") << "Friction" << false;
+        QTest::newRow("a step") << "step" << false;
+        QTest::newRow("a text") << "Text" << false;
+    }
+    void snapshotsShareTheValuesOfUnchangedItems()
+    {
+        QFETCH(QString, change);
+        QFETCH(bool, shared);
+        RectangleItem* body = world->createRectangle(0, 5, 0, 1, 1);
+        PhysicsWorldState first;
+        world->getState(first);
+        if (change == "step")
+            world->step();
+        else if (!change.isEmpty())
+            body->setProperty(change.toLatin1(), change == "Text" ? QVariant("A") : 0.25);
+        PhysicsWorldState second;
+        world->getState(second);
+        const XPropertyList& before = first.itemProperties.last();
+        const XPropertyList& after = second.itemProperties.last();
+        QCOMPARE(after.properties.constData() == before.properties.constData(), shared);
+        world->setState(first);
+        QVERIFY(first.itemProperties.last().describes(body));
+        QCOMPARE(body->positionY(), 5.0);
+        QCOMPARE(body->text(), QString());
+        world->removePhysicsItem(body);
+    }
+
+    // Snapshots read properties without QMetaProperty::read(): every value of every kind of
+    // item must be what it gives, type included.
+    void snapshotsReadAsQtReads()
+    {
+        QList<PhysicsItem*> items;
+        items.append(world->createRectangle(0, 0, 0, 1, 1));
+        items.append(world->createCircle(2, 0, 0, 0.5));
+        items.append(world->createBalloon(4, 0, 0, 0.5));
+        items.append(world->createGear(6, 0, 0, 1));
+        items.append(world->createPolygon(QPolygonF({{0, 3}, {1, 3}, {0, 4}})));
+        for (PhysicsItem* item : items) {
+            const XPropertyList list = XPropertyList::read(item);
+            const QMetaObject* metaObject = item->metaObject();
+            QCOMPARE(list.properties.size(), metaObject->propertyCount() - 1);
+            for (int index = 1; index < metaObject->propertyCount(); ++index) {
+                const QVariant expected = metaObject->property(index).read(item);
+                const QVariant& value = list.properties.at(index - 1).value;
+                QCOMPARE(value.userType(), expected.userType());
+                QCOMPARE(value, expected);
+            }
+            QVERIFY(list.describes(item));
+            world->removePhysicsItem(item);
+        }
     }
 
     void removalInsideStepIsDeferred()

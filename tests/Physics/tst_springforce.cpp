@@ -2,9 +2,11 @@
 #include "Physics/PhysicsWorld.h"
 #include "Physics/RectangleItem.h"
 #include "Physics/SpringForce.h"
+#include "View/GraphicsScene.h"
 #include "View/SpringGraphicsItem.h"
 
 #include <QFile>
+#include <QGraphicsView>
 #include <QPen>
 #include <QPointer>
 #include <QTest>
@@ -112,6 +114,35 @@ private slots:
         first->setXForm(12.3456789, 1.0, M_PI / 2);
         QCOMPARE(spring->anchor1(), QStringLiteral("12.3457,1.5"));
         QCOMPARE(spring->property("Anchor2").toString(), QStringLiteral("2,0"));
+    }
+
+    // The coil is laid out anew only when an end has moved by more than a pixel of the view
+    // that shows it largest, or of a new view where none does.
+    void coilFollowsMovesOfMoreThanAPixel_data()
+    {
+        QTest::addColumn<double>("move");
+        QTest::addColumn<double>("pixelsPerMetre");
+        QTest::addColumn<bool>("follows");
+        QTest::newRow("under a pixel, no view") << 0.01 << 0.0 << false;
+        QTest::newRow("over a pixel, no view") << 0.05 << 0.0 << true;
+        QTest::newRow("under a pixel, zoomed in") << 0.001 << 400.0 << false;
+        QTest::newRow("over a pixel, zoomed in") << 0.01 << 400.0 << true;
+    }
+    void coilFollowsMovesOfMoreThanAPixel()
+    {
+        QFETCH(double, move);
+        QFETCH(double, pixelsPerMetre);
+        QFETCH(bool, follows);
+        QGraphicsView view(pixelsPerMetre > 0.0 ? world->graphicsScene() : nullptr);
+        view.setTransform(QTransform::fromScale(pixelsPerMetre, -pixelsPerMetre));
+        RectangleItem* first = addBox(0, 0);
+        RectangleItem* second = addBox(2, 0);
+        SpringForce* spring = addSpring(first, second, QPointF(0, 0), QPointF(2, 0), 1, 0);
+        auto* coil = static_cast<SpringGraphicsItem*>(spring->graphicsItem());
+        second->setXForm(2.0 + move, 0.0, 0.0);
+        spring->update();
+        // Box2D keeps positions in float.
+        QCOMPARE(qAbs(coil->line().p2().x() - (2.0 + move)) < 1e-6, follows);
     }
 
     // After one update the next step carries the force F = -k (stretch) - damping (speed)

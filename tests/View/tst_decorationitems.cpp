@@ -1,3 +1,4 @@
+#include "View/CircleGraphicsItem.h"
 #include "View/RevoluteJointGraphicsItem.h"
 #include "View/SpringGraphicsItem.h"
 #include "View/VectorGraphicsItem.h"
@@ -6,10 +7,12 @@
 #include <QPainter>
 #include <QStyleOptionGraphicsItem>
 #include <QTest>
+#include <algorithm>
 #include <cmath>
 
 // The drawn decorations: the arrow's outline, the spring's zigzag and the revolute joint's
-// parts, their bounds, and that what they paint stays within those bounds.
+// parts, their bounds, and that what they paint stays within those bounds; and the disc's
+// polygon against the ellipse it stands for.
 class TestDecorationItems : public QObject
 {
     Q_OBJECT
@@ -172,6 +175,59 @@ private slots:
         QVERIFY(shape.contains(QPointF(0.005, 0)));
         QVERIFY(shape.contains(spring.points()[2]));
         QVERIFY(!shape.contains(QPointF(0.5, 0.3)));
+    }
+
+    // A disc painted at `pixels` pixels a metre, antialiased, as the view does.
+    static QImage paintedDisc(QAbstractGraphicsShapeItem* item, double pixels)
+    {
+        const int side = int(2 * pixels) + 8;
+        QImage image(side, side, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.translate(side / 2.0, side / 2.0);
+        painter.scale(pixels, -pixels);
+        QPen pen(Qt::black, 0);
+        pen.setCosmetic(true);
+        item->setPen(pen);
+        item->setBrush(QColor(200, 120, 40));
+        const QStyleOptionGraphicsItem option;
+        item->paint(&painter, &option, nullptr);
+        return image;
+    }
+
+    // The polygon must look like the ellipse at any size: no pixel apart by more than the
+    // antialiasing of the one-pixel outline makes of a shift of a fraction of a pixel. Qt's
+    // ellipse itself is up to about 90 levels from a polygon of thousands of sides; a polygon
+    // of too few sides, or of the wrong radius, is 150 or more away.
+    void discLooksLikeTheEllipse_data()
+    {
+        QTest::addColumn<double>("pixels");
+        for (double pixels : {2.0, 12.0, 60.0, 400.0})
+            QTest::addRow("%g px", pixels) << pixels;
+    }
+    void discLooksLikeTheEllipse()
+    {
+        QFETCH(double, pixels);
+        CircleGraphicsItem disc(1.0);
+        disc.setSpokeVisible(false);
+        // At its first radius, and at one set later, after the outline has been built.
+        for (double radius : {1.0, 0.5}) {
+            disc.setRadius(radius);
+            QGraphicsEllipseItem ellipse(-radius, -radius, 2 * radius, 2 * radius);
+            const QImage expected = paintedDisc(&ellipse, pixels);
+            const QImage actual = paintedDisc(&disc, pixels);
+            int largest = 0;
+            for (int y = 0; y < expected.height(); ++y) {
+                for (int x = 0; x < expected.width(); ++x) {
+                    const QRgb a = expected.pixel(x, y);
+                    const QRgb b = actual.pixel(x, y);
+                    largest = std::max({largest, qAbs(qRed(a) - qRed(b)),
+                                        qAbs(qGreen(a) - qGreen(b)), qAbs(qBlue(a) - qBlue(b))});
+                }
+            }
+            QVERIFY2(largest <= 96, qPrintable(QString::number(largest)));
+        }
     }
 
     void revoluteJointPartsScaleWithTheRadius_data()
