@@ -1,8 +1,8 @@
 // Times taking and restoring the snapshot that every undo entry holds, for scenes of 100,
 // 1,000 and 5,000 bodies: when every body is new to snapshots, after a step has moved every
 // body, as after the world has played, and when none has changed, as when one more body is
-// drawn. Then the memory that
-// 100 snapshots of a 5,000-body scene at rest hold, taken as 100 drawn bodies would take them.
+// drawn. Then the memory that 100 snapshots of a 5,000-body scene at rest hold, taken as 100
+// drawn bodies would take them.
 #include "BenchmarkApplication.h"
 #include "Physics/PhysicsWorld.h"
 #include "Physics/RectangleItem.h"
